@@ -1,0 +1,39 @@
+// The carousel view: five artists side by side, each with the covers of his albums.
+#ifndef SONOTIK_CATALOGUE_CAROUSEL_H_
+#define SONOTIK_CATALOGUE_CAROUSEL_H_
+
+#include <array>
+#include <string>
+
+#include "catalogue/album_pages.h"
+
+namespace sonotik {
+
+class Carousel {
+ public:
+  Carousel(Catalogue& catalogue, CatalogueCursor& cursor, const CoverLayout& layout,
+           const CoverFinder& covers, AlbumPages& pages, CarouselScreen& screen);
+
+  // Paints the columns from the source's position on.
+  void read_artists();
+  // The menu's way in.
+  void Carousel_show() { read_artists(); }
+  // "UP" is -1, "DOWN" is 1. Both make the audio albums the source.
+  void Step(int direction);
+  // The album folder behind a cover; empty where none is.
+  const std::string& PathAt(size_t column, size_t row) const { return paths_[column][row]; }
+
+ private:
+  Catalogue& catalogue_;
+  CatalogueCursor& cursor_;
+  const CoverLayout& layout_;
+  const CoverFinder& covers_;
+  AlbumPages& pages_;
+  CarouselScreen& screen_;
+  // CarouselPaths: six columns, of which five show, of 101 albums, of which five show.
+  std::array<std::array<std::string, 101>, 6> paths_;
+};
+
+}  // namespace sonotik
+
+#endif  // SONOTIK_CATALOGUE_CAROUSEL_H_

@@ -1,0 +1,36 @@
+// Short facts about songs, loaded whole at start-up.
+#ifndef SONOTIK_CATALOGUE_SONG_FACTS_H_
+#define SONOTIK_CATALOGUE_SONG_FACTS_H_
+
+#include <array>
+#include <string>
+#include <vector>
+
+#include "files/milestone_log.h"
+
+namespace sonotik {
+
+struct SongFacts {
+  std::string artist;
+  std::string track;
+  std::array<std::string, 5> facts;
+};
+
+class FactTable {
+ public:
+  FactTable(const std::string& app_path, const MilestoneLog& log)
+      : app_path_(app_path), log_(log) {}
+
+  // songfacts.dat into the table, rows in file order. Tells debug.log whether the file was there.
+  void load_facts();
+  const std::vector<SongFacts>& rows() const { return rows_; }
+
+ private:
+  const std::string& app_path_;
+  const MilestoneLog& log_;
+  std::vector<SongFacts> rows_;
+};
+
+}  // namespace sonotik
+
+#endif  // SONOTIK_CATALOGUE_SONG_FACTS_H_

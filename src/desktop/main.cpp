@@ -1,0 +1,81 @@
+// The jukebox program.
+#include <QApplication>
+#include <clocale>
+#include <cstdlib>
+#include <iostream>
+
+#include "desktop/form_window.h"
+#include "desktop/mpv_player.h"
+#include "desktop/program_folder.h"
+#include "desktop/qt_machine.h"
+#include "desktop/signals.h"
+#include "files/paths.h"
+#include "files/runtime_failure.h"
+#include "shell/jukebox.h"
+
+namespace sonotik {
+namespace {
+
+std::string WithoutClosingSeparator(std::string path) {
+  while (path.size() > 1 && path.back() == '\\') path.pop_back();
+  return path;
+}
+
+int RunJukebox(const std::string& app_path) {
+  SystemClock clock;
+  MersenneTwister random;
+  QtEventLoop loop;
+  Timers timers(clock);
+  NoKeys keys;
+  QtDisplays displays;
+  QtProcesses processes;
+  QtMessageBox messages;
+  MpvPlayer player([](std::function<void()> call) {
+    QMetaObject::invokeMethod(qApp, std::move(call), Qt::QueuedConnection);
+  });
+  Machine machine{clock,    random,    loop,    timers, keys, player,
+                  displays, processes, messages};
+  PictureCache pictures;
+  Jukebox jukebox(app_path, machine);
+  Form1& form1 = jukebox.house.form1;
+  player.on_frame = [&] {
+    form1.now_playing.video.SetPixels(&player.pixels());
+    form1.now_playing.video.Invalidate();
+  };
+  loop.Drive(timers);
+
+  FormWindow window(form1.form, pictures);
+  window.may_close = [&jukebox] { return jukebox.MayClose(); };
+  FormWindow splash(jukebox.house.splash.form, pictures);
+  splash.setWindowFlags(Qt::SplashScreen);
+  jukebox.start_up.hooks.show_splash = [&](bool visible) {
+    splash.setVisible(visible);
+    loop.PumpEvents();
+  };
+  const EndSignals signals([&jukebox] { jukebox.LeaveInOrder(); });
+  displays.SetWindow(&window);
+
+  if (jukebox.Start() != StartUpResult::kRunning) return 0;
+  window.show();
+  const int status = loop.Run();
+  player.on_frame = {};
+  return status;
+}
+
+}  // namespace
+}  // namespace sonotik
+
+int main(int argc, char** argv) {
+  // Before the toolkit may change what it was started as.
+  const std::filesystem::path folder = sonotik::ProgramFolder(argv[0], std::getenv("PATH"));
+  QApplication application(argc, argv);
+  QApplication::setQuitOnLastWindowClosed(false);
+  // The player writes and reads numbers with a point.
+  std::setlocale(LC_NUMERIC, "C");
+  try {
+    return sonotik::RunJukebox(sonotik::WithoutClosingSeparator(sonotik::ProgramPath(folder)));
+  } catch (const sonotik::RuntimeFailure& failure) {
+    std::cerr << "sonotik: " << failure.what() << std::endl;
+    return 1;
+  }
+}

@@ -1,0 +1,128 @@
+#include "desktop/painter_canvas.h"
+
+#include <QFontMetricsF>
+#include <QLinearGradient>
+#include <QPolygonF>
+#include <cmath>
+
+#include "desktop/text_decoding.h"
+
+namespace sonotik {
+namespace {
+
+constexpr double kPixelsPerPoint = 96.0 / 72.0;
+// A picture that can't be decoded.
+constexpr Color kPlate = Rgb(48, 52, 70);
+
+QColor ColorOf(Color color) {
+  return QColor(static_cast<int>(color & 255), static_cast<int>(color >> 8 & 255),
+                static_cast<int>(color >> 16 & 255));
+}
+
+QRectF RectOf(const Rect& rect) { return {rect.left, rect.top, rect.width, rect.height}; }
+
+QFont FontOf(const Font& font) {
+  QFont made(Decode(font.family));
+  made.setPixelSize(std::max(1, static_cast<int>(std::lround(font.points * kPixelsPerPoint))));
+  made.setBold(font.bold);
+  return made;
+}
+
+int FlagsOf(const TextStyle& style) {
+  const int align = style.align == Align::kLeft    ? Qt::AlignLeft
+                    : style.align == Align::kRight ? Qt::AlignRight
+                                                   : Qt::AlignHCenter;
+  return align | Qt::AlignVCenter | (style.wrap ? Qt::TextWordWrap : 0);
+}
+
+}  // namespace
+
+PainterCanvas::PainterCanvas(QPainter& painter, PictureCache& pictures, const Rect& visible,
+                             double scale)
+    : painter_(painter), pictures_(pictures), scale_(scale), visible_{visible} {
+  painter_.setRenderHint(QPainter::Antialiasing);
+  painter_.setRenderHint(QPainter::SmoothPixmapTransform);
+}
+
+void PainterCanvas::Push(const Rect& place) {
+  painter_.save();
+  painter_.setClipRect(RectOf(place), Qt::IntersectClip);
+  painter_.translate(place.left, place.top);
+  visible_.push_back(visible_.back().Intersected(place).MovedBy(-place.left, -place.top));
+}
+
+void PainterCanvas::Pop() {
+  painter_.restore();
+  visible_.pop_back();
+}
+
+void PainterCanvas::Fill(const Rect& rect, const QBrush& brush, float radius) {
+  if (radius <= 0) return painter_.fillRect(RectOf(rect), brush);
+  painter_.setPen(Qt::NoPen);
+  painter_.setBrush(brush);
+  painter_.drawRoundedRect(RectOf(rect), radius, radius);
+}
+
+void PainterCanvas::FillRect(const Rect& rect, Color color, float radius) {
+  Fill(rect, ColorOf(color), radius);
+}
+
+void PainterCanvas::FillGradient(const Rect& rect, Color top, Color bottom, float radius) {
+  QLinearGradient gradient(0, rect.top, 0, rect.bottom());
+  gradient.setColorAt(0, ColorOf(top));
+  gradient.setColorAt(1, ColorOf(bottom));
+  Fill(rect, gradient, radius);
+}
+
+void PainterCanvas::DrawRect(const Rect& rect, Color color, float width, float radius) {
+  painter_.setBrush(Qt::NoBrush);
+  painter_.setPen(QPen(ColorOf(color), width));
+  painter_.drawRoundedRect(RectOf(rect.Inset(width / 2)), radius, radius);
+}
+
+void PainterCanvas::FillPolygon(std::span<const Point> corners, Color color) {
+  QPolygonF polygon;
+  for (const Point& corner : corners) polygon << QPointF(corner.x, corner.y);
+  painter_.setPen(Qt::NoPen);
+  painter_.setBrush(ColorOf(color));
+  painter_.drawPolygon(polygon);
+}
+
+void PainterCanvas::DrawPicture(const std::string& path, const Rect& rect, PictureFit fit) {
+  const QSize pixels(static_cast<int>(std::lround(rect.width * scale_)),
+                     static_cast<int>(std::lround(rect.height * scale_)));
+  if (pixels.isEmpty()) return;
+  const QImage& image = pictures_.Get(path, pixels, fit);
+  if (image.isNull()) return FillRect(rect, kPlate, 0);
+  // Centred: a picture that is contained may be smaller than its place.
+  const double width = image.width() / scale_;
+  const double height = image.height() / scale_;
+  painter_.drawImage(QRectF(rect.left + (rect.width - width) / 2,
+                            rect.top + (rect.height - height) / 2, width, height),
+                     image);
+}
+
+void PainterCanvas::DrawPixels(const PixelSurface& pixels, const Rect& rect) {
+  const QImage image(pixels.bytes.data(), pixels.width, pixels.height, pixels.stride,
+                     QImage::Format_RGB32);
+  painter_.drawImage(RectOf(rect), image);
+}
+
+void PainterCanvas::DrawText(const std::string& text, const Rect& rect, const TextStyle& style) {
+  const QFont font = FontOf(style.font);
+  QString shown = Decode(text);
+  if (!style.wrap && !shown.contains(QLatin1Char('\n'))) {
+    shown = QFontMetricsF(font).elidedText(shown, Qt::ElideRight, rect.width);
+  }
+  painter_.setFont(font);
+  painter_.setPen(ColorOf(style.color));
+  painter_.drawText(RectOf(rect), FlagsOf(style), shown);
+}
+
+Rect PainterCanvas::MeasureText(const std::string& text, const TextStyle& style, float width) {
+  const QRectF bounds = QFontMetricsF(FontOf(style.font))
+                            .boundingRect(QRectF(0, 0, width, 1e6), FlagsOf(style), Decode(text));
+  return {0, 0, static_cast<float>(bounds.width()), static_cast<float>(bounds.height())};
+}
+
+}  // namespace sonotik

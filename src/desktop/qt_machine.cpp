@@ -1,0 +1,131 @@
+#include "desktop/qt_machine.h"
+
+#include <QApplication>
+#include <QMessageBox>
+#include <QProcess>
+#include <QScreen>
+#include <chrono>
+#include <ctime>
+
+#include "config/version.h"
+#include "desktop/text_decoding.h"
+#include "files/files.h"
+#include "files/paths.h"
+
+namespace sonotik {
+
+DateTime SystemClock::Now() const {
+  const std::time_t now = std::time(nullptr);
+  std::tm local{};
+  localtime_r(&now, &local);
+  return {{local.tm_year + 1900, local.tm_mon + 1, local.tm_mday},
+          local.tm_hour,
+          local.tm_min,
+          local.tm_sec};
+}
+
+int64_t SystemClock::Milliseconds() const {
+  using namespace std::chrono;
+  return duration_cast<milliseconds>(steady_clock::now().time_since_epoch()).count();
+}
+
+void QtEventLoop::PumpEvents() { QCoreApplication::processEvents(); }
+
+void QtEventLoop::Leave(int exit_status) {
+  left_ = true;
+  exit_status_ = exit_status;
+  QCoreApplication::exit(exit_status);
+}
+
+void QtEventLoop::Drive(Timers& timers) {
+  wake_.setSingleShot(true);
+  wake_.setTimerType(Qt::PreciseTimer);
+  const auto plan = [this, &timers] {
+    const int64_t wait = timers.UntilNext();
+    if (wait < 0) {
+      wake_.stop();
+    } else if (!wake_.isActive() || wake_.remainingTime() > wait) {
+      wake_.start(static_cast<int>(wait));
+    }
+  };
+  timers.on_change = plan;
+  QObject::connect(&wake_, &QTimer::timeout, [&timers, plan] {
+    timers.FireDue();
+    plan();
+  });
+}
+
+int QtEventLoop::Run() { return left_ ? exit_status_ : QCoreApplication::exec(); }
+
+void QtDisplays::SetWindow(QWidget* window) {
+  window_ = window;
+  Apply();
+}
+
+int QtDisplays::MonitorCount() {
+  return std::max(1, static_cast<int>(QGuiApplication::screens().size()));
+}
+
+DisplayMode QtDisplays::CurrentMode() {
+  const QScreen* screen = QGuiApplication::primaryScreen();
+  if (screen == nullptr) return {};
+  const QSize pixels = screen->size() * screen->devicePixelRatio();
+  return {pixels.width(), pixels.height(), screen->depth(),
+          static_cast<int>(screen->refreshRate())};
+}
+
+void QtDisplays::SetFullScreen(bool full_screen) {
+  full_screen_ = full_screen;
+  Apply();
+}
+
+void QtDisplays::SetTopMost(bool top_most) {
+  top_most_ = top_most;
+  Apply();
+}
+
+void QtDisplays::SetMousePointerVisible(bool visible) {
+  pointer_ = visible;
+  Apply();
+}
+
+void QtDisplays::Apply() {
+  if (window_ == nullptr) return;
+  const bool shown = window_->isVisible();
+  if (window_->windowFlags().testFlag(Qt::WindowStaysOnTopHint) != top_most_) {
+    window_->setWindowFlag(Qt::WindowStaysOnTopHint, top_most_);
+  }
+  if (full_screen_) {
+    // Where no window manager runs, nobody else gives the window the screen's size.
+    if (const QScreen* screen = QGuiApplication::primaryScreen()) {
+      window_->setGeometry(screen->geometry());
+    }
+    window_->setWindowState(window_->windowState() | Qt::WindowFullScreen);
+  } else {
+    window_->setWindowState(window_->windowState() & ~Qt::WindowFullScreen);
+  }
+  window_->setCursor(pointer_ ? Qt::ArrowCursor : Qt::BlankCursor);
+  if (shown) window_->show();
+}
+
+void QtProcesses::StartProgram(const std::string& path, WindowState) {
+  if (!FileExists(path)) return;
+  QProcess::startDetached(QString::fromStdString(NativePath(path).string()), {});
+}
+
+void QtProcesses::StartCommand(const std::string& command, WindowState) {
+  QProcess::startDetached("/bin/sh", {"-c", QString::fromLocal8Bit(command.c_str())});
+}
+
+void QtMessageBox::Show(const std::string& text) {
+  QMessageBox box;
+  box.setWindowTitle(kProgramTitle);
+  box.setText(Decode(text));
+  box.setStyleSheet(
+      "QMessageBox { background: #1a1d30; } QLabel { color: #f0f1f8; font-size: 20px; }"
+      "QPushButton { background: #ffb84d; color: #1c1408; font-size: 20px; font-weight: bold;"
+      " padding: 14px 48px; border: 0; border-radius: 8px; }");
+  box.exec();
+}
+
+}  // namespace sonotik

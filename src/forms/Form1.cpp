@@ -1,0 +1,88 @@
+#include "forms/Form1.h"
+
+namespace sonotik {
+namespace {
+
+using namespace design;
+
+constexpr float kPlayerTop = kHeight - kPlayerHeight;
+
+}  // namespace
+
+Form1::Form1()
+    : album(panels[screen::kAlbum]),
+      jump_to_letter(form),
+      track_list(panels[screen::kTrackList]),
+      play_options(panels[screen::kPlayOptions]),
+      queue(panels[screen::kQueue]),
+      now_playing(panels[screen::kNowPlaying]),
+      carousel(panels[screen::kCarousel]),
+      decades(panels[screen::kDecades]) {
+  form.SetPlace({0, 0, kWidth, kHeight});
+  form.SetBackColor(kNight);
+  form.SetTitle("Sonotik");
+
+  AddPanel(form, menu, {0, 0, kWidth, kMenuHeight}, kPanel);
+  static constexpr const char* kMenu[] = {"History", "Top 20",  "Search",        "Show Queue",
+                                          "Options", "Decades", "Carousel View", "Genres",
+                                          "Album View"};
+  // By how often a guest wants them, from the left.
+  static constexpr float kMenuPlaces[] = {7, 6, 3, 1, 8, 5, 2, 4, 0};
+  for (size_t i = 0; i < menu_buttons.size(); ++i) {
+    AddButton(menu, menu_buttons[i], {8 + 141 * kMenuPlaces[i], 8, 134, 48}, kMenu[i], 11);
+  }
+
+  for (size_t i = 0; i < panels.size(); ++i) {
+    Panel& panel = panels[i];
+    // A screen that placed itself while it was made keeps its place.
+    AddPanel(form, panel, panel.place().empty() ? kScreen : panel.place(),
+             panel.place().empty() ? kNight : panel.back_color());
+    panel.SetVisible(i == screen::kAlbum);
+  }
+  jump_to_letter.panel.BringToFront();
+
+  AddPanel(form, player, {0, kPlayerTop, kWidth, kPlayerHeight}, kPanel);
+  AddPicture(player, now_playing_cover, {12, 10, 76, 76});
+  AddLabel(player, now_playing_title, {100, 10, 296, 30}, 14, kText, Align::kLeft, true);
+  AddLabel(player, now_playing_artist, {100, 38, 296, 26}, 12, kAmber);
+  AddLabel(player, position, {100, 64, 70, 24}, 12, kText);
+  AddLabel(player, length, {170, 64, 90, 24}, 12, kMuted);
+  AddLabel(player, paused, {270, 64, 120, 24}, 12, kCoral, Align::kLeft, true);
+  paused.SetCaption("PAUSED");
+  paused.SetVisible(false);
+
+  static constexpr const char* kPlayer[] = {"<<", "ll", ">>", "-", "+"};
+  for (size_t i = 0; i < player_buttons.size(); ++i) {
+    // The volume buttons stand at both ends of the slider.
+    const float left = i < 3 ? 492 + 84 * static_cast<float>(i) : i == 3 ? 760 : 980;
+    AddButton(player, player_buttons[i], {left, 16, i < 3 ? 76.0F : 56.0F, 64}, kPlayer[i], 16);
+  }
+  // Shows once the machine can choose music by itself.
+  AddButton(player, random, {404, 16, 80, 64}, "Random OFF", 10);
+  random.SetVisible(false);
+  player.Add(volume, {822, 28, 152, 40});
+  volume.SetRange(kLeastVolume, kMostVolume);
+  volume.SetValue(kMostVolume);
+  volume.SetColors(kNight, kAmber, kText);
+
+  AddLabel(player, credits, {1050, 8, 218, 28}, 13, kAmber, Align::kRight, true);
+  AddLabel(player, play_caption, {1050, 36, 218, 24}, 11, kMuted, Align::kRight);
+  AddLabel(player, clock, {1050, 62, 218, 26}, 12, kText, Align::kRight);
+
+  AddPanel(form, genre_bar, {0, 0, kWidth, kMenuHeight}, kPanel);
+  AddPanel(form, pin_screen, {440, 150, 400, 480}, kRaised);
+  AddPanel(form, attract_picture, {0, 0, kWidth, kHeight});
+  for (Panel* hidden : {&genre_bar, &pin_screen, &attract_picture}) hidden->SetVisible(false);
+}
+
+void Form1::HideAllScreens() {
+  // Panels 14 and 15 are parts of other screens and stay as they are.
+  for (size_t i = 0; i <= screen::kPlayOptions; ++i) panels[i].SetVisible(false);
+}
+
+void Form1::ShowScreen(size_t index) {
+  panels[index].SetVisible(true);
+  panels[index].BringToFront();
+}
+
+}  // namespace sonotik

@@ -1,0 +1,32 @@
+// The ports together: all that the system asks of a machine. desktop/ fills it with adapters, a
+// test with stand-ins that it moves by hand.
+#ifndef SONOTIK_PLATFORM_MACHINE_H_
+#define SONOTIK_PLATFORM_MACHINE_H_
+
+#include "platform/clock.h"
+#include "platform/displays.h"
+#include "platform/event_loop.h"
+#include "platform/key_state.h"
+#include "platform/message_box.h"
+#include "platform/player.h"
+#include "platform/processes.h"
+#include "platform/random_source.h"
+#include "platform/timers.h"
+
+namespace sonotik {
+
+struct Machine {
+  Clock& clock;
+  RandomSource& random;
+  EventLoop& events;
+  Timers& timers;
+  KeyState& keys;
+  Player& player;
+  Displays& displays;
+  Processes& processes;
+  MessageBox& messages;
+};
+
+}  // namespace sonotik
+
+#endif  // SONOTIK_PLATFORM_MACHINE_H_

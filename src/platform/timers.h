@@ -1,0 +1,58 @@
+// Timers: switches that the logic throws, and a list that fires those that are due.
+#ifndef SONOTIK_PLATFORM_TIMERS_H_
+#define SONOTIK_PLATFORM_TIMERS_H_
+
+#include <cstdint>
+#include <functional>
+#include <vector>
+
+#include "platform/clock.h"
+
+namespace sonotik {
+
+class Timers;
+
+// A timer fires each `interval_ms` while it is enabled. Switching it on starts a whole interval, so
+// a handler that switches its own timer off on entry and on at its end never enters itself, and a
+// long handler stretches the interval.
+class Timer {
+ public:
+  Timer(Timers& timers, int interval_ms);
+  ~Timer();
+  Timer(const Timer&) = delete;
+  Timer& operator=(const Timer&) = delete;
+
+  bool enabled() const { return enabled_; }
+  void SetEnabled(bool enabled);
+
+  std::function<void()> on_tick;
+
+ private:
+  friend class Timers;
+  Timers& timers_;
+  int interval_ms_;
+  int64_t due_ = 0;
+  bool enabled_ = false;
+};
+
+class Timers {
+ public:
+  explicit Timers(const Clock& clock) : clock_(clock) {}
+
+  // Fires each timer that is due, once. Entered again from a handler (through pending events) it
+  // serves the other timers.
+  void FireDue();
+  // Milliseconds until the next timer is due: 0 if one is, -1 if none is enabled.
+  int64_t UntilNext() const;
+  // Told when a timer was switched on, so that whoever waits can wait less.
+  std::function<void()> on_change;
+
+ private:
+  friend class Timer;
+  const Clock& clock_;
+  std::vector<Timer*> timers_;
+};
+
+}  // namespace sonotik
+
+#endif  // SONOTIK_PLATFORM_TIMERS_H_

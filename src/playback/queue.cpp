@@ -1,0 +1,113 @@
+#include "playback/queue.h"
+
+#include "files/files.h"
+#include "files/line_format.h"
+#include "text/numbers.h"
+#include "text/text.h"
+
+namespace sonotik {
+namespace {
+
+const std::string kNone;
+
+}  // namespace
+
+Queue::Queue(const std::string& app_path, RandomSource& random, TagReader& tags,
+             const TagFields& fields)
+    : app_path_(app_path), random_(random), tags_(tags), fields_(fields) {}
+
+const std::string& Queue::path(int index) const {
+  return index < 0 || index >= count() ? kNone : paths_[static_cast<size_t>(index)];
+}
+
+const std::string& Queue::cover(int index) const {
+  return index < 0 || index >= count() ? kNone : covers_[static_cast<size_t>(index)];
+}
+
+void Queue::Append(std::string path, std::string cover) {
+  paths_.push_back(std::move(path));
+  covers_.push_back(std::move(cover));
+}
+
+void Queue::InsertFirst(std::string path, std::string cover) {
+  paths_.insert(paths_.begin(), std::move(path));
+  covers_.insert(covers_.begin(), std::move(cover));
+}
+
+void Queue::RemoveAt(int index) {
+  if (index < 0 || index >= count()) return;
+  paths_.erase(paths_.begin() + index);
+  covers_.erase(covers_.begin() + index);
+}
+
+void Queue::Move(int from, int to) {
+  if (from < 0 || from >= count() || to < 0 || to >= count()) return;
+  const std::string path = paths_[static_cast<size_t>(from)];
+  const std::string cover = covers_[static_cast<size_t>(from)];
+  RemoveAt(from);
+  paths_.insert(paths_.begin() + to, path);
+  covers_.insert(covers_.begin() + to, cover);
+}
+
+void Queue::Clear() {
+  paths_.clear();
+  covers_.clear();
+}
+
+void Queue::shuffle_queue() {
+  if (count() < 2) return;
+  for (int round = 0; round < 10; ++round) {
+    Move(static_cast<int>(random_.Below(count())), count() - 1);
+  }
+}
+
+bool Queue::Contains(const std::string& path) const {
+  for (const std::string& queued : paths_) {
+    if (ContainsIgnoringCase(queued, path)) return true;
+  }
+  return false;
+}
+
+void Queue::Load() {
+  Clear();
+  const std::string file = app_path_ + "\\queue.dat";
+  if (!FileExists(file)) return;
+  // Whole lines: a comma in a path is part of it.
+  LineReader reader(ReadWholeFile(file));
+  const double entries = NumberOrZero(reader.Next());
+  // One pair more than there are entries; the last one is empty.
+  for (double i = 0; entries > 0 && i <= entries; ++i) {
+    std::string path = reader.Next();
+    std::string cover = reader.Next();
+    if (!TrimBlanks(path).empty()) Append(std::move(path), std::move(cover));
+  }
+}
+
+void Queue::Save() const {
+  LineWriter writer;
+  writer.Number(static_cast<long>(count()));
+  for (int i = 0; i <= count(); ++i) {
+    writer.Text(path(i));
+    writer.Text(cover(i));
+  }
+  ReplaceFile(app_path_ + "\\queue.dat", writer.text());
+}
+
+void Queue::DeleteSaved() const { DeleteFileIfThere(app_path_ + "\\queue.dat"); }
+
+void Queue::Export() {
+  LineWriter writer;
+  writer.Number(static_cast<long>(count()));
+  for (int i = 0; i <= count(); ++i) {
+    writer.Text(path(i));
+    writer.Text(cover(i));
+    if (path(i).empty()) continue;
+    tags_.ReadFor(TagCaller::kQueueUpl, path(i));
+    writer.Text(fields_.txtArtist);
+    writer.Text(fields_.txtTitle);
+    writer.Text(fields_.txtAlbum);
+  }
+  ReplaceFile(app_path_ + "\\queue.upl", writer.text());
+}
+
+}  // namespace sonotik

@@ -1,0 +1,74 @@
+#include "playback/selection.h"
+
+#include "files/paths.h"
+
+namespace sonotik {
+
+Selection::Selection(const Settings& settings, PlaybackState& state,
+                     const CatalogueCursor& cursor, Credits& credits, Queue& queue,
+                     QueueView& view, TrackSequence& tracks, const CoverFinder& covers,
+                     TagReader& tags)
+    : settings_(settings),
+      state_(state),
+      cursor_(cursor),
+      credits_(credits),
+      queue_(queue),
+      view_(view),
+      tracks_(tracks),
+      covers_(covers),
+      tags_(tags) {}
+
+void Selection::add_queue4(const std::string& path) {
+  const bool play_now = state_.play_now_flag != 0;
+  const bool play_next = state_.play_next_flag != 0;
+  if (!credits_.ChargeForSelection(cursor_.media_kind, play_now, play_next,
+                                   state_.random_in_progress)) {
+    return;
+  }
+  if (!hand_to_master(path)) {
+    if (!play_now) {
+      std::string cover = CoverFor(FolderOf(path));
+      if (play_next) {
+        queue_.InsertFirst(path, std::move(cover));
+      } else {
+        queue_.Append(path, std::move(cover));
+      }
+    } else if (!state_.paused) {
+      tracks_.Play_track3(path);
+    }
+    // Over a paused track the request is dropped, although the credits are taken: that is meant.
+  }
+  if (settings_.use_second_monitor && !play_now) {
+    tags_.ReadFor(TagCaller::kAddQueue, path);
+    if (!state_.random_in_progress) announce(play_next);
+  }
+  view_.show_next();
+  queue_.Export();
+}
+
+std::string Selection::CoverFor(const std::string& folder) const {
+  // By its name the cover is taken whether or not it is there; showing it looks again.
+  if (!covers_.TakesFirstImage()) return folder + settings_.cover_image_name;
+  const std::string name = FirstImageIn(folder);
+  if (name.empty()) return covers_.NotFoundPicture();
+  return folder + name;
+}
+
+void Selection::Choose(const std::string& path, PlayWay way) {
+  const struct Clear {
+    PlaybackState& state;
+    ~Clear() { state.play_now_flag = state.play_next_flag = 0; }
+  } clear{state_};
+  state_.play_now_flag = way == PlayWay::kPlayNow ? 1 : 0;
+  state_.play_next_flag = way == PlayWay::kPlayNext ? 1 : 0;
+  add_queue4(path);
+}
+
+void Selection::PlayQueueEntry() {
+  view_.HideRowCommands();
+  const std::string path = queue_.path(view_.selection());
+  if (!path.empty()) Choose(path, PlayWay::kPlayNow);
+  view_.Press(QueueCommand::kPlayNow);
+}
+
+}  // namespace sonotik

@@ -1,0 +1,123 @@
+#include "playback/track_sequence.h"
+
+#include "files/files.h"
+#include "files/paths.h"
+#include "text/dates.h"
+#include "text/text.h"
+
+namespace sonotik {
+
+TrackSequence::TrackSequence(EventLoop& events, const Settings& settings, PlaybackState& state,
+                             MediaEngine& engine, const CoverFinder& covers, History& history,
+                             TagReader& tags, const TagFields& fields, Timer& state_timer,
+                             Form1& form)
+    : events_(events),
+      settings_(settings),
+      state_(state),
+      engine_(engine),
+      covers_(covers),
+      history_(history),
+      tags_(tags),
+      fields_(fields),
+      state_timer_(state_timer),
+      form1_(form) {}
+
+void TrackSequence::Play_track3(std::string path) {
+  state_timer_.SetEnabled(false);
+  path = TrimBlanks(path);
+  if (!FileExists(path)) return;
+  // Whatever fails behind this point, the tick goes on.
+  const struct GiveBack {
+    Timer& timer;
+    ~GiveBack() { timer.SetEnabled(true); }
+  } give_back{state_timer_};
+
+  if (settings_.mute_line_in_on_play) hooks.mute_line_in();
+  tags_.ReadFor(TagCaller::kPlayTrack, path);
+  ShowNames();
+  hooks.send_to_sign();
+  events_.PumpEvents();
+
+  // A song with a CDG beside it is karaoke: the engine gets the CDG, the names came from the MP3.
+  if (KindOf(path) == "MP3") {
+    const std::string cdg = path.substr(0, path.size() - 3) + "CDG";
+    if (FileExists(cdg)) path = cdg;
+  }
+  if (KindOf(path) == "TAG" && path.size() >= 4) path.resize(path.size() - 4);
+
+  state_.paused = false;
+  engine_.OpenMedia(path, false);
+  events_.PumpEvents();
+  engine_.MediaSetVolume(settings_.use_random_volume && state_.random_in_progress
+                             ? settings_.random_volume
+                             : settings_.main_volume);
+  BranchOnKind(path);
+
+  const std::string folder = FolderOf(path);
+  ShowCover(covers_.FindCoverPicture(folder));
+  // The tag may have left the time of the file before standing; it is shown as it is.
+  const std::string length = fields_.txtmp3time.empty() ? MinutesSeconds(engine_.MediaDuration())
+                                                        : fields_.txtmp3time;
+  form1_.length.SetCaption(length);
+  form1_.now_playing.length.SetCaption(length);
+  history_.AddToHistory(path, state_.random_in_progress ? kRandomHistory : kUserHistory);
+  hooks.start_song_facts();
+  state_.current_track_path = path;
+  state_.current_track_folder = folder;
+}
+
+void TrackSequence::ShowNames() {
+  for (Label* artist : {&form1_.now_playing_artist, &form1_.now_playing.artist,
+                        &form1_.now_playing.next_song_artist}) {
+    artist->SetCaption(fields_.txtArtist);
+  }
+  for (Label* title : {&form1_.now_playing_title, &form1_.now_playing.title,
+                       &form1_.now_playing.next_song_title}) {
+    title->SetCaption(fields_.txtTitle);
+  }
+}
+
+void TrackSequence::BranchOnKind(const std::string& path) {
+  const std::string kind = KindOf(path);
+  NowPlayingScreen& screen = form1_.now_playing;
+  // An M4A isn't in the list of audio kinds and takes the other way.
+  if (kind == "MP3" || kind == "WMA" || kind == "WAV") {
+    if (settings_.use_visualisations) {
+      events_.PumpEvents();
+      hooks.start_visualisation();
+    }
+    if (settings_.use_second_monitor && settings_.second_monitor_videos_only) {
+      hooks.show_second_monitor(false);
+    }
+    screen.video.SetVisible(false);
+    screen.full_screen.SetVisible(false);
+    if (settings_.enable_mic_on_videos) hooks.mute_microphone(true);
+    return;
+  }
+  hooks.close_visualisation();
+  if (settings_.enable_mic_on_videos) hooks.mute_microphone(false);
+  if (settings_.use_second_monitor) hooks.show_second_monitor(true);
+  screen.video.SetVisible(!settings_.use_second_monitor);
+  screen.full_screen.SetVisible(!settings_.use_second_monitor);
+}
+
+void TrackSequence::ShowCover(const std::string& picture) {
+  form1_.now_playing_cover.SetPicture(picture);
+  form1_.now_playing.cover.SetPicture(picture);
+}
+
+void TrackSequence::clear_playing_info() {
+  for (Label* label : {&form1_.now_playing_artist, &form1_.now_playing_title,
+                       &form1_.now_playing.artist, &form1_.now_playing.title,
+                       &form1_.now_playing.next_song_artist,
+                       &form1_.now_playing.next_song_title}) {
+    label->SetCaption(kNoSongPlaying);
+  }
+  for (Label* label : {&form1_.position, &form1_.length, &form1_.now_playing.length}) {
+    label->SetCaption("0:00");
+  }
+  ShowCover(covers_.NotFoundPicture());
+  hooks.playing_info_cleared();
+}
+
+}  // namespace sonotik

@@ -1,0 +1,43 @@
+#include "shell/assembly.h"
+
+#include <utility>
+
+namespace sonotik {
+namespace {
+
+constexpr int kPollInterval = 10;
+constexpr int kTickInterval = 1000;
+
+}  // namespace
+
+Assembly::Assembly(std::string path, Machine& ports)
+    : app_path(std::move(path)),
+      machine(ports),
+      timer1(ports.timers, kPollInterval),
+      state_timer(ports.timers, kTickInterval),
+      log(app_path, ports.clock),
+      settings_file(app_path, settings, lists, ports.messages),
+      credits(app_path, settings, lists, form1),
+      key_map(app_path),
+      permissions(app_path, ports.messages),
+      tags(fields, [this] { return settings.use_filename_if_no_tag; }),
+      covers(app_path, settings),
+      catalogue(app_path),
+      pages(ports, settings, catalogue, cursor, cover_layout, covers, form1),
+      letter_jump(catalogue, cursor, cover_layout, pages, form1),
+      carousel(catalogue, cursor, cover_layout, covers, pages, form1.carousel),
+      track_list(app_path, settings, catalogue, cursor, cover_layout, covers, tags, fields, form1),
+      play_options(settings, cursor, covers, credits, tags, fields, form1),
+      history(app_path, ports.clock, fields),
+      facts(app_path, log),
+      engine(ports.player, ports.events, settings, form1.now_playing.video),
+      queue(app_path, ports.random, tags, fields),
+      queue_view(settings, queue, covers, tags, fields, form1),
+      tracks(ports.events, settings, playback, engine, covers, history, tags, fields, state_timer,
+             form1),
+      selection(settings, playback, cursor, credits, queue, queue_view, tracks, covers, tags) {
+  play_options.is_queued = [this](const std::string& chosen) { return queue.Contains(chosen); };
+  play_options.queue_count = [this] { return queue.count(); };
+}
+
+}  // namespace sonotik

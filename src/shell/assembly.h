@@ -1,0 +1,99 @@
+// Everything of the jukebox, built once and joined: each object gets just what it needs, and what
+// would point upwards is a callback that is filled in here.
+#ifndef SONOTIK_SHELL_ASSEMBLY_H_
+#define SONOTIK_SHELL_ASSEMBLY_H_
+
+#include <string>
+
+#include "access/credits.h"
+#include "access/key_map.h"
+#include "access/permissions.h"
+#include "catalogue/album_pages.h"
+#include "catalogue/carousel.h"
+#include "catalogue/history.h"
+#include "catalogue/letter_jump.h"
+#include "catalogue/play_options.h"
+#include "catalogue/song_facts.h"
+#include "catalogue/track_list.h"
+#include "config/settings_file.h"
+#include "files/milestone_log.h"
+#include "forms/Form1.h"
+#include "forms/Form2.h"
+#include "forms/Splash.h"
+#include "platform/machine.h"
+#include "playback/genre_lists.h"
+#include "playback/media_engine.h"
+#include "playback/queue.h"
+#include "playback/queue_view.h"
+#include "playback/selection.h"
+#include "playback/track_sequence.h"
+#include "shell/boundary.h"
+
+namespace sonotik {
+
+// The counters of the two timers, and how the program stands.
+struct ShellState {
+  double idle_seconds = 0;
+  double attract_seconds = 0;
+  int random_wait_seconds = 0;
+  int jingle_song_count = 0;
+  int ticker_seconds = 0;
+  Date last_seen_date;
+  // Today's month and year, read once at start; charts go by them.
+  int current_month = 0;
+  int current_year = 0;
+  // The display mode found at start.
+  DisplayMode saved_mode;
+  bool attract_settings_loaded = false;
+  bool shutting_down = false;
+};
+
+struct Assembly {
+  Assembly(std::string app_path, Machine& machine);
+  Assembly(const Assembly&) = delete;
+  Assembly& operator=(const Assembly&) = delete;
+
+  const std::string app_path;
+  Machine& machine;
+  Boundary boundary;
+  ShellState state;
+  Timer timer1;
+  Timer state_timer;
+
+  Settings settings;
+  OptionLists lists;
+  Splash splash;
+  Form1 form1;
+  Form2 form2;
+
+  MilestoneLog log;
+  SettingsFile settings_file;
+  Credits credits;
+  KeyMap key_map;
+  Permissions permissions;
+
+  TagFields fields;
+  TagReader tags;
+  CoverLayout cover_layout;
+  CoverFinder covers;
+  Catalogue catalogue;
+  CatalogueCursor cursor;
+  AlbumPages pages;
+  LetterJump letter_jump;
+  Carousel carousel;
+  TrackList track_list;
+  PlayOptions play_options;
+  History history;
+  FactTable facts;
+
+  PlaybackState playback;
+  MediaEngine engine;
+  Queue queue;
+  QueueView queue_view;
+  TrackSequence tracks;
+  Selection selection;
+};
+
+}  // namespace sonotik
+
+#endif  // SONOTIK_SHELL_ASSEMBLY_H_

@@ -1,0 +1,48 @@
+// The jukebox: everything built and joined, ready to be started.
+#ifndef SONOTIK_SHELL_JUKEBOX_H_
+#define SONOTIK_SHELL_JUKEBOX_H_
+
+#include <string>
+
+#include "shell/assembly.h"
+#include "shell/navigation.h"
+#include "shell/settings_effects.h"
+#include "shell/shutdown.h"
+#include "shell/start_up.h"
+#include "shell/ticks.h"
+
+namespace sonotik {
+
+class Jukebox {
+ public:
+  // `app_path` is the program's folder as a program path, without a closing "\".
+  Jukebox(std::string app_path, Machine& machine)
+      : house(std::move(app_path), machine),
+        effects(house),
+        start_up(house, effects),
+        ticks(house),
+        navigation(house),
+        shutdown(house) {
+    ticks.hooks.leave_program = [this] { shutdown.TimedExit(); };
+  }
+
+  // See StartUp::Form_Load.
+  StartUpResult Start() { return start_up.Form_Load(); }
+  // SIGTERM, Ctrl+C.
+  void LeaveInOrder() {
+    house.boundary.Run("leaving", [this] { shutdown.TimedExit(); });
+  }
+  // The window refuses to close unless the program itself leaves.
+  bool MayClose() const { return house.state.shutting_down; }
+
+  Assembly house;
+  SettingsEffects effects;
+  StartUp start_up;
+  Ticks ticks;
+  Navigation navigation;
+  Shutdown shutdown;
+};
+
+}  // namespace sonotik
+
+#endif  // SONOTIK_SHELL_JUKEBOX_H_

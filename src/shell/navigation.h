@@ -1,0 +1,52 @@
+// What touches do: the ways between the screens and the commands on them.
+#ifndef SONOTIK_SHELL_NAVIGATION_H_
+#define SONOTIK_SHELL_NAVIGATION_H_
+
+#include <functional>
+
+#include "shell/assembly.h"
+
+namespace sonotik {
+
+class Navigation {
+ public:
+  explicit Navigation(Assembly& house);
+
+  // Asked before a track for adults: the PIN, and then this screen. Until there is a PIN screen
+  // such a track can't be chosen.
+  std::function<void(size_t target)> ask_for_pin = [](size_t) {};
+
+  void OpenMenu(MenuButton button);
+  // "BACK" always means the album pages.
+  void Back();
+  void OpenAlbum(const std::string& folder);
+  void PressTrackRow(int row);
+  void DoubleClickTrackRow(int row);
+  void PressPlayer(PlayerButton button);
+  void ToggleFullScreen();
+
+ private:
+  void WireMenu();
+  void WireAlbumScreen();
+  void WireTrackList();
+  void WirePlayOptions();
+  void WireQueue();
+  void WireNowPlaying();
+  void WirePlayer();
+  template <typename Handler>
+  void OnClick(Control& control, const char* name, Handler handler);
+
+  void ChooseRow(PlayWay way);
+  void ChoosePlayOption(PlayWay way);
+  void AddEntireAlbum();
+  void AfterAdding(size_t calling_screen);
+  void SetVolume(int value);
+
+  Assembly& house_;
+  // The video box's own place while it fills the screen.
+  Rect video_place_;
+};
+
+}  // namespace sonotik
+
+#endif  // SONOTIK_SHELL_NAVIGATION_H_

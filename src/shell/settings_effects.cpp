@@ -1,0 +1,132 @@
+#include "shell/settings_effects.h"
+
+#include "config/settings_table.h"
+#include "files/file_list.h"
+#include "skins/cover_layout.h"
+
+namespace sonotik {
+
+SettingsEffects::SettingsEffects(Assembly& house) : house_(house) {
+  house_.settings_file.on_applied = [this](int row, bool changed) { Apply(row, changed); };
+}
+
+void SettingsEffects::LoadConfig() {
+  house_.settings_file.LoadConfig();
+  // Only ever on: with the box off, the mode stays as it stands.
+  if (house_.settings.enable_random_play) {
+    house_.playback.random_mode_on = true;
+    house_.form1.random.SetCaption("Random ON");
+  }
+}
+
+void SettingsEffects::Apply(int row, bool changed) {
+  switch (row) {
+    case setting_row::kCreditMode:
+      if (changed) SwitchCreditMode();
+      break;
+    case setting_row::kAttractTexts:
+      house_.state.attract_settings_loaded = true;
+      break;
+    case setting_row::kCoverLayout:
+      ListCoverLayouts();
+      SelectCoverLayout(house_.settings.cover_layout);
+      break;
+    case setting_row::kMainVolume:
+      house_.form1.volume.SetValue(house_.settings.main_volume);
+      break;
+    case setting_row::kHideMouse:
+      house_.machine.displays.SetMousePointerVisible(!house_.settings.hide_mouse);
+      break;
+    case setting_row::kMenuButtons:
+      ShowMenu();
+      break;
+    case setting_row::kTabs:
+      HideTabs();
+      break;
+    case setting_row::kPlayButtons:
+      ShowDisplays();
+      break;
+    case setting_row::kStartupDatabase:
+      if (changed) house_.pages.SelectDatabase(house_.settings.startup_database);
+      break;
+    default:
+      // All others are read at the moment that they matter.
+      break;
+  }
+}
+
+void SettingsEffects::SwitchCreditMode() {
+  house_.credits.ShowCreditMode();
+  // Each switch to on starts one more; switching off leaves it running.
+  if (house_.settings.enable_credit_mode) {
+    house_.machine.processes.StartProgram(house_.app_path + "\\creditmodule.exe",
+                                          WindowState::kMinimised);
+  }
+}
+
+void SettingsEffects::ListCoverLayouts() {
+  FileList layouts("*.cov");
+  layouts.SetFolder(house_.app_path + "\\skins\\" + house_.settings.current_skin);
+  house_.lists.cover_layouts = layouts.names();
+}
+
+void SettingsEffects::SelectCoverLayout(int index) {
+  const ItemList& layouts = house_.lists.cover_layouts;
+  // A skin without a layout keeps the one in force.
+  if (layouts.empty()) return;
+  const size_t chosen = index > -1 ? static_cast<size_t>(index) : 0;
+  if (chosen >= layouts.size()) {
+    throw RuntimeFailure("the skin has no cover layout number " + std::to_string(index));
+  }
+  house_.settings.cover_layout = static_cast<int>(chosen);
+  LoadCoverLayout(
+      house_.app_path + "\\skins\\" + house_.settings.current_skin + "\\" + layouts[chosen],
+      house_.cover_layout, house_.form1.album);
+  house_.cursor.SetPosition(CatalogueSource::kRecords, 1);
+  house_.pages.read_albums3();
+}
+
+void SettingsEffects::ShowMenu() {
+  const Settings& settings = house_.settings;
+  Form1& form = house_.form1;
+  const bool menu[] = {settings.menu_history,  settings.menu_top20,   settings.menu_search,
+                       settings.menu_queue,    settings.menu_options, settings.menu_decades,
+                       settings.menu_carousel, settings.menu_genres};
+  for (size_t i = 0; i < std::size(menu); ++i) form.menu_buttons[i].SetVisible(menu[i]);
+  form.player.SetVisible(settings.display_player_controls);
+  form.menu.SetVisible(settings.display_menu_bar);
+  form.volume.SetVisible(settings.volume_slider);
+  for (const PlayerButton button : {PlayerButton::kVolumeDown, PlayerButton::kVolumeUp}) {
+    form.player_buttons[static_cast<size_t>(button)].SetVisible(settings.volume_buttons);
+  }
+  for (const PlayerButton button :
+       {PlayerButton::kRestart, PlayerButton::kPause, PlayerButton::kNext}) {
+    form.player_buttons[static_cast<size_t>(button)].SetVisible(settings.player_buttons);
+  }
+}
+
+void SettingsEffects::HideTabs() {
+  const Settings& settings = house_.settings;
+  const bool tabs[] = {settings.tab_audio,       settings.tab_video,
+                       settings.tab_karaoke,     settings.tab_most_played,
+                       settings.tab_newly_added, settings.tab_spin_on_this};
+  for (size_t i = 0; i < std::size(tabs); ++i) {
+    // Never made visible here: a tab that was hidden before stays so.
+    if (!tabs[i]) house_.form1.album.tabs[i].SetVisible(false);
+  }
+}
+
+void SettingsEffects::ShowDisplays() {
+  const Settings& settings = house_.settings;
+  Form1& form = house_.form1;
+  form.credits.SetVisible(settings.show_credits_display);
+  form.play_caption.SetVisible(settings.show_credits_display);
+  form.clock.SetVisible(settings.show_time_and_date);
+  for (Control* item : {static_cast<Control*>(&form.now_playing_artist),
+                        static_cast<Control*>(&form.now_playing_title),
+                        static_cast<Control*>(&form.now_playing_cover)}) {
+    item->SetVisible(settings.show_now_playing);
+  }
+}
+
+}  // namespace sonotik

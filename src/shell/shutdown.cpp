@@ -1,0 +1,24 @@
+#include "shell/shutdown.h"
+
+namespace sonotik {
+
+void Shutdown::TimedExit() {
+  if (house_.state.shutting_down) return;
+  hooks.ShowTaskbar();
+  hooks.RestoreResolution();
+  // What can't be saved must not keep the cabinet running.
+  if (house_.settings.save_queue_on_shutdown) {
+    house_.boundary.Run("queue.dat", [this] { house_.queue.Save(); });
+  }
+  if (!house_.settings.shutdown_command.empty()) {
+    house_.machine.processes.StartCommand(house_.settings.shutdown_command, WindowState::kNormal);
+  }
+  house_.state.shutting_down = true;
+  hooks.close_credit_module();
+  house_.timer1.SetEnabled(false);
+  house_.state_timer.SetEnabled(false);
+  house_.engine.CloseMedia();
+  house_.machine.events.Leave(0);
+}
+
+}  // namespace sonotik

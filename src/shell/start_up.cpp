@@ -1,0 +1,165 @@
+#include "shell/start_up.h"
+
+#include "config/version.h"
+#include "files/file_list.h"
+#include "playback/genre_lists.h"
+
+namespace sonotik {
+namespace {
+
+// 1 to 12 are used.
+constexpr const char* kMonthNames[] = {"",     "JANUARY",   "FEBRUARY", "MARCH",    "APRIL",
+                                       "MAY",  "JUNE",      "JULY",     "AUGUST",   "SEPTEMBER",
+                                       "OCTOBER", "NOVEMBER", "DECEMBER"};
+
+}  // namespace
+
+StartUpResult StartUp::Form_Load() {
+  const std::string& app_path = house_.app_path;
+  if (!instance_.Take(app_path)) return StartUpResult::kSecondInstance;
+  house_.state_timer.SetEnabled(false);
+  house_.timer1.SetEnabled(false);
+
+  // The skin is not known yet; its picture shows where one lies in the skins folder itself.
+  const std::string picture =
+      app_path + "\\skins\\" + house_.settings.current_skin + "\\splash.bmp";
+  house_.splash.title.SetCaption(kProgramTitle);
+  house_.splash.version.SetCaption(kVersionCaption);
+  if (FileExists(picture)) house_.splash.picture.SetPicture(picture);
+  hooks.show_splash(true);
+  hooks.open_coin_intake();
+
+  house_.lists.FillFixed(house_.machine.displays.MonitorCount());
+  house_.boundary.Run("load_facts", [&] { house_.facts.load_facts(); });
+  ListGenres();
+  hooks.genre_scroll_show();
+  house_.log.LogMilestone("Genres Check Complete");
+  house_.settings.double_click_action = 0;
+  house_.log.LogMilestone("Combo Buttons Set Up");
+  SetUpHistory();
+  house_.log.LogMilestone("History Set Up");
+  house_.log.LogMilestone("Keyboard Shortcuts Loaded");
+  ChangeWorkingFolder(app_path);
+  house_.log.LogMilestone("Set app Path");
+  SetUpYearButtons();
+  house_.log.LogMilestone("Year Buttons Set Up");
+  SetUpScreens();
+  hooks.read_window_style();
+  house_.state.saved_mode = house_.machine.displays.CurrentMode();
+  house_.log.LogMilestone("Start UP Complete");
+
+  effects_.LoadConfig();
+  house_.log.LogMilestone("INI File load Complete");
+  house_.boundary.Run("ApplySkin", hooks.ApplySkin);
+  house_.log.LogMilestone("Skin Load Complete");
+  house_.boundary.Run("show_next", [&] { house_.queue_view.show_next(); });
+
+  if (!house_.catalogue.HasTrackFile()) {
+    house_.machine.messages.Show(
+        "You don't have any databases created, Click OK to run the CONFIG");
+    house_.machine.processes.StartProgram(app_path + "\\Config 3.exe", WindowState::kNormal);
+    hooks.show_splash(false);
+    return StartUpResult::kNoCatalogue;
+  }
+  LoadDataFiles();
+  ShowFirstPage();
+  house_.boundary.Run("startup.mp3", [&] { PlayStartSound(); });
+  hooks.show_splash(false);
+  if (house_.form2.style.top_most) house_.machine.displays.SetTopMost(true);
+  house_.state_timer.SetEnabled(true);
+  house_.timer1.SetEnabled(true);
+  return StartUpResult::kRunning;
+}
+
+void StartUp::ListGenres() {
+  FileList genres("*.cvr");
+  genres.SetFolder(house_.app_path + "\\genres");
+  for (const std::string& name : genres.names()) {
+    house_.lists.available_genres.push_back(name.substr(0, name.size() - 4));
+  }
+}
+
+void StartUp::SetUpHistory() {
+  const Date today = house_.machine.clock.Now().date;
+  DecadesScreen& screen = house_.form1.decades;
+  screen.month_caption.SetCaption(kMonthNames[today.month]);
+  screen.year_caption.SetCaption(std::to_string(today.year));
+  house_.state.current_month = today.month;
+  house_.state.current_year = today.year;
+}
+
+void StartUp::SetUpYearButtons() {
+  auto& buttons = house_.form1.decades.year_buttons;
+  for (size_t i = 0; i < buttons.size(); ++i) {
+    const int year = kFirstChartYear + static_cast<int>(i);
+    if (year > house_.state.current_year + 1) {
+      buttons[i].SetVisible(false);
+    } else {
+      buttons[i].SetCaption(std::to_string(year));
+    }
+  }
+}
+
+void StartUp::SetUpScreens() {
+  Form1& form = house_.form1;
+  form.decades.month_picker.SetVisible(false);
+  form.decades.year_picker.SetVisible(false);
+  form.paused.SetVisible(false);
+  const std::string forum = house_.app_path + "\\New forum.bmp";
+  if (FileExists(forum)) house_.form2.forum_picture.SetPicture(forum);
+  form.pin_screen.SetVisible(false);
+  form.version.SetCaption(kVersionCaption);
+}
+
+void StartUp::Load(const char* name, const char* milestone, const std::function<void()>& load) {
+  // A file that can't be read costs what it holds; debug.log lacks its milestone then.
+  house_.boundary.Run(name, [&] {
+    load();
+    house_.log.LogMilestone(milestone);
+  });
+}
+
+void StartUp::LoadDataFiles() {
+  Load("queue.dat", "QUEUE Load Complete", [&] {
+    house_.queue_view.CLear_queue();
+    house_.queue.Load();
+  });
+  Load("keyboard.dat", "Key Load Complete", [&] { house_.key_map.LoadKeyMap(); });
+  Load("permissions.ini", "Permissions Load Complete",
+       [&] { house_.permissions.LoadPermissions(); });
+  Load("cost.dat", "CostLoad Complete", [&] { house_.credits.LoadCost(); });
+  Load("betabrite.ini", "BETABRITE Settings Load Complete", hooks.load_sign);
+  Load("terminal.ini", "Teminal/Master Load Complete", hooks.load_terminal);
+  Load("load_history_chart", "History CHART Load Complete", hooks.load_history_chart);
+  if (house_.settings.full_screen) house_.machine.displays.SetFullScreen(true);
+  Load("random.dat", "Random PLAY Load Complete",
+       [&] { LoadGenreLists(house_.app_path, house_.lists); });
+}
+
+void StartUp::ShowFirstPage() {
+  if (house_.settings.update_skins_on_load) {
+    house_.boundary.Run("update_skinlist", hooks.update_skinlist);
+  }
+  house_.pages.SetPageValid(true);
+  house_.boundary.Run("read_albums3", [&] { house_.pages.read_albums3(); });
+  house_.credits.ShowCreditMode();
+  house_.boundary.Run("LoadMostPlayed", [&] { house_.history.LoadMostPlayed(); });
+}
+
+void StartUp::PlayStartSound() {
+  const std::string sound = house_.app_path + "\\startup.mp3";
+  if (!FileExists(sound) || hooks.is_terminal()) return;
+  // Set for the length of the call only: left set, every later selection would be free.
+  const struct Clear {
+    PlaybackState& state;
+    ~Clear() {
+      state.random_in_progress = false;
+      state.play_now_flag = 0;
+    }
+  } clear{house_.playback};
+  house_.playback.random_in_progress = true;
+  house_.playback.play_now_flag = 1;
+  house_.tracks.Play_track3(sound);
+}
+
+}  // namespace sonotik

@@ -1,0 +1,62 @@
+// The start-up of the program: one fixed order, with a milestone in debug.log after each stage.
+#ifndef SONOTIK_SHELL_START_UP_H_
+#define SONOTIK_SHELL_START_UP_H_
+
+#include <functional>
+
+#include "files/files.h"
+#include "shell/assembly.h"
+#include "shell/settings_effects.h"
+
+namespace sonotik {
+
+// What other rooms do while the program starts. Each stands at its place in the order and does
+// nothing until its owner fills it in.
+struct StartUpHooks {
+  std::function<void(bool visible)> show_splash = [](bool) {};
+  std::function<void()> open_coin_intake = [] {};
+  std::function<void()> genre_scroll_show = [] {};
+  std::function<void()> read_window_style = [] {};
+  std::function<void()> ApplySkin = [] {};
+  std::function<void()> load_sign = [] {};
+  std::function<void()> load_terminal = [] {};
+  std::function<void()> load_history_chart = [] {};
+  std::function<void()> update_skinlist = [] {};
+  // This machine hands its selections to another one.
+  std::function<bool()> is_terminal = [] { return false; };
+};
+
+enum class StartUpResult {
+  kRunning,
+  kSecondInstance,
+  kNoCatalogue,
+};
+
+class StartUp {
+ public:
+  StartUp(Assembly& house, SettingsEffects& effects) : house_(house), effects_(effects) {}
+
+  StartUpHooks hooks;
+
+  // Throws RuntimeFailure only where no settings at all can be read: without them there is no
+  // jukebox. Any other file that can't be read costs what it holds, and the start goes on.
+  StartUpResult Form_Load();
+
+ private:
+  void ListGenres();
+  void SetUpScreens();
+  void SetUpHistory();
+  void SetUpYearButtons();
+  void LoadDataFiles();
+  void ShowFirstPage();
+  void PlayStartSound();
+  void Load(const char* name, const char* milestone, const std::function<void()>& load);
+
+  Assembly& house_;
+  SettingsEffects& effects_;
+  FolderLock instance_;
+};
+
+}  // namespace sonotik
+
+#endif  // SONOTIK_SHELL_START_UP_H_

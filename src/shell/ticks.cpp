@@ -1,0 +1,181 @@
+#include "shell/ticks.h"
+
+#include <cmath>
+
+#include "text/numbers.h"
+#include "text/text.h"
+
+namespace sonotik {
+namespace {
+
+constexpr int kTickerSeconds = 10;
+// From here on the position label stands still for the rest of a very long track; that is meant.
+constexpr double kLastShownPosition = 1000.0;
+
+// Switches a timer off for the length of its handler and on at its end, however that comes, unless
+// the program leaves.
+class OffMeanwhile {
+ public:
+  OffMeanwhile(Timer& timer, const ShellState& state) : timer_(timer), state_(state) {
+    timer_.SetEnabled(false);
+  }
+  ~OffMeanwhile() { timer_.SetEnabled(!state_.shutting_down); }
+  OffMeanwhile(const OffMeanwhile&) = delete;
+  OffMeanwhile& operator=(const OffMeanwhile&) = delete;
+
+ private:
+  Timer& timer_;
+  const ShellState& state_;
+};
+
+}  // namespace
+
+Ticks::Ticks(Assembly& house) : house_(house) {
+  house_.state_timer.on_tick = [this] {
+    house_.boundary.Run("StateTimer", [this] { StateTick(); });
+  };
+  house_.timer1.on_tick = [this] { house_.boundary.Run("Timer1", [this] { Poll(); }); };
+}
+
+void Ticks::StateTick() {
+  const OffMeanwhile off(house_.state_timer, house_.state);
+  CheckCalendar();
+  TickTicker();
+  hooks.TickSongFacts();
+  TickIdle();
+  ShowClock();
+  if (ItIsTimeToLeave()) return hooks.leave_program();
+  EndTrack();
+  if (house_.engine.MediaIsPlaying() || house_.playback.paused) {
+    ShowPosition();
+  } else {
+    PickWhatComesNext();
+  }
+  if (house_.queue.path(0).empty()) house_.form1.now_playing.next_song.SetVisible(false);
+}
+
+void Ticks::CheckCalendar() {
+  const Date today = house_.machine.clock.Now().date;
+  if (today == house_.state.last_seen_date) return;
+  house_.state.last_seen_date = today;
+  hooks.apply_calendar(today);
+}
+
+void Ticks::TickTicker() {
+  if (!house_.settings.use_second_monitor || !hooks.ticker_visible()) return;
+  if (++house_.state.ticker_seconds < kTickerSeconds) return;
+  hooks.hide_ticker();
+  house_.state.ticker_seconds = 0;
+}
+
+void Ticks::TickIdle() {
+  ShellState& state = house_.state;
+  Form1& form = house_.form1;
+  // Anything but a number counts as 0 and switches at once.
+  const double limit = NumberOrZero(house_.settings.now_playing_wait);
+  if (state.idle_seconds <= limit || form.panel(screen::kOptions).visible()) {
+    ++state.idle_seconds;
+    return;
+  }
+  const bool showing = form.panel(screen::kNowPlaying).visible();
+  const bool playing = house_.engine.MediaIsPlaying();
+  if (!showing) {
+    form.HideAllScreens();
+    form.ShowScreen(screen::kNowPlaying);
+  }
+  if ((showing || !playing) && house_.settings.attract_enabled &&
+      (state.attract_seconds > NumberOrZero(house_.settings.attract_delay) || !playing)) {
+    hooks.attract_change();
+    state.attract_seconds = 0;
+  }
+  ++state.attract_seconds;
+}
+
+void Ticks::ShowClock() {
+  if (!house_.settings.show_time_and_date) return;
+  const DateTime now = house_.machine.clock.Now();
+  house_.form1.clock.SetCaption(DateText(now.date) + " " + TimeText(now));
+}
+
+bool Ticks::ItIsTimeToLeave() const {
+  const Settings& settings = house_.settings;
+  if (!settings.exit_program_at || settings.exit_time < 0) return false;
+  const std::string& time = house_.lists.exit_times[static_cast<size_t>(settings.exit_time)];
+  return TimeText(house_.machine.clock.Now()).substr(0, 5) == TrimBlanks(time);
+}
+
+void Ticks::EndTrack() {
+  // Whole seconds: the last fraction of a track isn't played. A paused track never ends.
+  if (!house_.playback.paused && std::trunc(house_.engine.MediaDuration()) ==
+                                     std::trunc(house_.engine.MediaPosition())) {
+    house_.engine.MediaStop();
+  }
+}
+
+void Ticks::ShowPosition() {
+  const double position = std::trunc(house_.engine.MediaPosition() * 100) / 100;
+  if (position < kLastShownPosition) house_.form1.position.SetCaption(MinutesSeconds(position));
+}
+
+void Ticks::PickWhatComesNext() {
+  if (house_.playback.play_now_flag != 0) return;
+  if (!house_.queue.path(0).empty()) {
+    StartQueueHead();
+  } else if (house_.playback.random_mode_on && house_.settings.enable_random_play &&
+             house_.playback.random_play_available) {
+    CountDeadAir();
+  } else {
+    ClearPlayingInfoOnce();
+  }
+}
+
+void Ticks::StartQueueHead() {
+  const std::string path = house_.queue.path(0);
+  const std::string cover = house_.queue.cover(0);
+  {
+    // A track whose start fails leaves the queue all the same: kept, it would be tried for ever
+    // and nothing behind it would play.
+    const struct Remove {
+      Queue& queue;
+      ~Remove() { queue.RemoveAt(0); }
+    } remove{house_.queue};
+    house_.tracks.Play_track3(path);
+    // Also over a track that was gone.
+    house_.tracks.ShowCover(house_.covers.OrNotFound(cover));
+  }
+  if (house_.settings.shuffle_queue_each_play) {
+    house_.queue.shuffle_queue();
+    house_.queue_view.Update_queue2();
+  }
+  house_.queue_view.show_next();
+}
+
+void Ticks::CountDeadAir() {
+  ShellState& state = house_.state;
+  const double wait = NumberOrZero(house_.settings.wait_between_tracks);
+  ++state.random_wait_seconds;
+  if (wait > state.random_wait_seconds) return ClearPlayingInfoOnce();
+  ++state.jingle_song_count;
+  state.random_wait_seconds = 0;
+  if (house_.settings.enable_jingles &&
+      state.jingle_song_count >= house_.settings.jingle_song_count + 2) {
+    hooks.play_jingle();
+  } else {
+    hooks.Random_Play();
+  }
+}
+
+void Ticks::ClearPlayingInfoOnce() {
+  if (house_.form1.now_playing_artist.caption() != kNoSongPlaying) {
+    house_.tracks.clear_playing_info();
+  }
+}
+
+void Ticks::Poll() {
+  const OffMeanwhile off(house_.timer1, house_.state);
+  hooks.take_spool_file();
+  house_.credits.ShowCreditState();
+  hooks.PollKeys();
+}
+
+}  // namespace sonotik

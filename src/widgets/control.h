@@ -1,0 +1,163 @@
+// Controls: the state of the screens. A control is a place with a few properties; panels hold
+// others; a form is the root of a window. Logic reads and writes them, skins place them, a window
+// only paints them and hands in the mouse.
+#ifndef SONOTIK_WIDGETS_CONTROL_H_
+#define SONOTIK_WIDGETS_CONTROL_H_
+
+#include <functional>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "widgets/canvas.h"
+#include "widgets/geometry.h"
+
+namespace sonotik {
+
+class Panel;
+class Form;
+
+enum class MouseButton { kLeft, kMiddle, kRight };
+
+// A mouse or touch event in the coordinates of the control that gets it.
+struct MouseEvent {
+  Point at;
+  MouseButton button = MouseButton::kLeft;
+};
+
+class Control {
+ public:
+  Control() = default;
+  virtual ~Control();
+  Control(const Control&) = delete;
+  Control& operator=(const Control&) = delete;
+
+  // Relative to the panel that holds the control.
+  const Rect& place() const { return place_; }
+  void SetPlace(const Rect& place);
+  bool visible() const { return visible_; }
+  void SetVisible(bool visible);
+  Panel* parent() const { return parent_; }
+  // True if the control and all panels around it are visible.
+  bool showing() const;
+  // The place in the form's coordinates.
+  Rect AbsolutePlace() const;
+  // In front of all its siblings.
+  void BringToFront();
+
+  // Has the control painted again, if it shows.
+  void Invalidate();
+
+  std::function<void()> on_click;
+  std::function<void()> on_double_click;
+  std::function<void(const MouseEvent&)> on_mouse_down;
+  std::function<void(const MouseEvent&)> on_mouse_move;
+  std::function<void(const MouseEvent&)> on_mouse_up;
+
+  // True if a mouse press on it is its own; others fall through to what lies below.
+  virtual bool TakesMouse() const;
+  // What a control does of its own with the mouse, before the handlers above run.
+  virtual void MouseDown(const MouseEvent& event);
+  virtual void MouseMove(const MouseEvent& event);
+  // `inside`: the button was let go over the control, which makes a click of it.
+  virtual void MouseUp(const MouseEvent& event, bool inside);
+  virtual void MouseEnter() {}
+  virtual void MouseLeave() {}
+
+  // In the control's own coordinates.
+  virtual void Paint(Canvas& canvas) const = 0;
+  // True if the control covers all of its place.
+  virtual bool opaque() const { return false; }
+
+ protected:
+  // Stores a property, and has the control painted again only if it really changed.
+  template <typename T>
+  bool Change(T& property, T value) {
+    if (property == value) return false;
+    property = std::move(value);
+    Invalidate();
+    return true;
+  }
+
+ private:
+  friend class Panel;
+  Rect place_;
+  bool visible_ = true;
+  Panel* parent_ = nullptr;
+};
+
+// Holds other controls, back to front, and paints a colour or a picture behind them.
+class Panel : public Control {
+ public:
+  ~Panel() override;
+
+  // The control is owned elsewhere; it leaves by itself when it ends.
+  void Add(Control& child, const Rect& place);
+  const std::vector<Control*>& children() const { return children_; }
+
+  Color back_color() const { return back_color_; }
+  void SetBackColor(Color color) { Change(back_color_, color); }
+  // No colour and no picture of its own: what lies behind shows through.
+  void SetTransparent(bool transparent) { Change(transparent_, transparent); }
+  const std::string& picture() const { return picture_; }
+  void SetPicture(std::string path) { Change(picture_, std::move(path)); }
+
+  // The topmost visible control at this point that takes the mouse, down through the panels.
+  Control* HitTest(Point at);
+
+  bool TakesMouse() const override { return !transparent_ || Control::TakesMouse(); }
+  void Paint(Canvas& canvas) const override;
+  bool opaque() const override { return !transparent_; }
+
+ private:
+  friend class Control;
+  std::vector<Control*> children_;
+  Color back_color_ = 0;
+  bool transparent_ = false;
+  std::string picture_;
+};
+
+// The root of a window: it knows the mouse's capture and hover and what has to be painted.
+class Form : public Panel {
+ public:
+  const std::string& title() const { return title_; }
+  void SetTitle(std::string title) { title_ = std::move(title); }
+
+  // What the window hands in, in the form's coordinates.
+  void PressMouse(Point at, MouseButton button = MouseButton::kLeft);
+  void MoveMouse(Point at);
+  void ReleaseMouse(Point at, MouseButton button = MouseButton::kLeft);
+  // Goes to the control of the first press, also if that has put another screen there.
+  void DoubleClickMouse(Point at);
+  void LeaveMouse();
+  // Down and up in one place.
+  void Click(Point at);
+
+  // The control that a pressed finger holds; nullptr for none.
+  const Control* captured() const { return captured_; }
+
+  // Any press or key: somebody is there.
+  std::function<void()> on_input;
+
+  // What has to be painted since the last call.
+  std::vector<Rect> TakeDirty() { return std::exchange(dirty_, {}); }
+  bool dirty() const { return !dirty_.empty(); }
+  // Told when something has to be painted that was not said before.
+  std::function<void()> on_dirty;
+
+ private:
+  friend class Control;
+  void AddDirty(const Rect& rect);
+  void Forget(const Control* control);
+  void Hover(Control* control);
+
+  std::string title_;
+  Control* captured_ = nullptr;
+  Control* pressed_ = nullptr;  // the last one
+  Control* hovered_ = nullptr;
+  std::vector<Rect> dirty_;
+};
+
+}  // namespace sonotik
+
+#endif  // SONOTIK_WIDGETS_CONTROL_H_

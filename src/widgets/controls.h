@@ -1,0 +1,68 @@
+// The plain controls: label, picture, video box, list.
+#ifndef SONOTIK_WIDGETS_CONTROLS_H_
+#define SONOTIK_WIDGETS_CONTROLS_H_
+
+#include <string>
+
+#include "widgets/control.h"
+
+namespace sonotik {
+
+// A caption as it shows: "&&" is one "&", and a single one before a letter or digit marks an access
+// key and doesn't show.
+std::string CaptionAsShown(const std::string& caption);
+
+class Label : public Control {
+ public:
+  const std::string& caption() const { return caption_; }
+  void SetCaption(std::string caption) { Change(caption_, std::move(caption)); }
+  Color fore_color() const { return style_.color; }
+  void SetForeColor(Color color) { Change(style_.color, color); }
+  const Font& font() const { return style_.font; }
+  void SetFont(Font font) { Change(style_.font, std::move(font)); }
+  void SetAlign(Align align) { Change(style_.align, align); }
+  void SetWrap(bool wrap) { Change(style_.wrap, wrap); }
+  // The back colour shows only while `opaque` is set: a highlighted row.
+  Color back_color() const { return back_color_; }
+  void SetBackColor(Color color) { Change(back_color_, color); }
+  bool highlighted() const { return filled_; }
+  void SetHighlighted(bool filled) { Change(filled_, filled); }
+
+  void Paint(Canvas& canvas) const override;
+
+ private:
+  std::string caption_;
+  TextStyle style_;
+  Color back_color_ = 0;
+  bool filled_ = false;
+};
+
+class PictureBox : public Control {
+ public:
+  // A picture file; empty shows nothing.
+  const std::string& picture() const { return picture_; }
+  void SetPicture(std::string path) { Change(picture_, std::move(path)); }
+  void SetFit(PictureFit fit) { Change(fit_, fit); }
+
+  void Paint(Canvas& canvas) const override;
+
+ private:
+  std::string picture_;
+  PictureFit fit_ = PictureFit::kCover;
+};
+
+// Where a video runs: black, and on it whatever the player has rendered last.
+class VideoBox : public Control {
+ public:
+  // Owned by the player; nullptr for none. Whoever renders into it calls Invalidate.
+  void SetPixels(const PixelSurface* pixels);
+  bool opaque() const override { return true; }
+  void Paint(Canvas& canvas) const override;
+
+ private:
+  const PixelSurface* pixels_ = nullptr;
+};
+
+}  // namespace sonotik
+
+#endif  // SONOTIK_WIDGETS_CONTROLS_H_

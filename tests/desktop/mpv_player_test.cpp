@@ -1,0 +1,287 @@
+#include "desktop/mpv_player.h"
+
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <clocale>
+#include <cmath>
+#include <condition_variable>
+#include <cstdlib>
+#include <deque>
+#include <filesystem>
+#include <fstream>
+#include <functional>
+#include <memory>
+#include <mutex>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace sonotik {
+namespace {
+namespace fs = std::filesystem;
+
+// The interface thread's queue: closures come from any thread and run while the test waits.
+class Queue {
+ public:
+  void Post(std::function<void()> closure) {
+    const std::lock_guard lock(mutex_);
+    closures_.push_back(std::move(closure));
+    posted_.notify_one();
+  }
+  void Drain() {
+    std::unique_lock lock(mutex_);
+    while (!closures_.empty()) {
+      const auto closure = std::move(closures_.front());
+      closures_.pop_front();
+      lock.unlock();
+      closure();
+      lock.lock();
+    }
+  }
+  bool Until(const std::function<bool()>& condition) {
+    const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(10);
+    while (!condition()) {
+      if (std::chrono::steady_clock::now() > deadline) return false;
+      std::unique_lock lock(mutex_);
+      posted_.wait_for(lock, std::chrono::milliseconds(2), [this] { return !closures_.empty(); });
+      lock.unlock();
+      Drain();
+    }
+    return true;
+  }
+
+ private:
+  std::mutex mutex_;
+  std::condition_variable posted_;
+  std::deque<std::function<void()>> closures_;
+};
+
+class MpvPlayerTest : public testing::Test {
+ protected:
+  static void SetUpTestSuite() {
+    std::string name = (fs::temp_directory_path() / "mpv_player_XXXXXX").string();
+    folder_ = mkdtemp(name.data());
+    start_ = fs::current_path();
+    fs::current_path(folder_);
+    const std::string sound = " -f lavfi -i sine=440:d=1 ";
+    Make(sound + "tone.wav");
+    Make(sound + "-b:a 128k tone.mp3");
+    Make("-f lavfi -i color=red:s=160x240:d=1 -f lavfi -i color=blue:s=160x240:d=1" + sound +
+         "-filter_complex '[0][1]hstack,setdar=16/9' -c:v mpeg2video -c:a mp2 clip.mpg");
+    Make("-i clip.mpg -metadata:s:v rotate=90 turned.mp4");
+    Make(
+        "-i tone.mp3 -i clip.mpg -map 0:a -map 1:v -c:a copy -c:v png -frames:v 1 "
+        "-disposition:v attached_pic cover.mp3");
+    const std::string tone = Read("tone.wav");
+    Write("cut.wav", tone.substr(0, tone.size() / 2));
+    for (const char* copy : {"-vo.wav", "a:b,c;%41&.wav", "caf\xe9.wav"}) Write(copy, tone);
+  }
+  static void TearDownTestSuite() {
+    fs::current_path(start_);
+    fs::remove_all(folder_);
+  }
+  void SetUp() override { setlocale(LC_NUMERIC, "C"); }
+
+  static void Make(const std::string& arguments) {
+    ASSERT_EQ(std::system(("ffmpeg -v error -nostdin " + arguments).c_str()), 0) << arguments;
+  }
+  static void Write(const std::string& name, const std::string& bytes) {
+    std::ofstream(name, std::ios::binary) << bytes;
+  }
+  static std::string Read(const std::string& name) {
+    std::ifstream file(name, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+  }
+  // Two seconds of CD+G, 300 packets of 24 bytes each: a screen of one colour from `first` on and
+  // nothing after it.
+  static std::string Cdg(int first) {
+    std::string bytes(600 * 24, '\0');
+    const std::string colors = {9, 30, 0, 0, 0, 0, 0x3c, 0};  // number 1 is red
+    const std::string preset = {9, 1, 0, 0, 1};
+    bytes.replace(first * 24, colors.size(), colors);
+    bytes.replace((first + 1) * 24, preset.size(), preset);
+    return bytes;
+  }
+
+  bool AtEnd() { return player_->Position() == player_->Length(); }
+  bool PlayToEnd() {
+    return player_->Run() && queue_.Until([this] { return AtEnd(); });
+  }
+  // Blue, green and red of the picture shown.
+  std::vector<int> Pixel(int x, int y) {
+    const PixelSurface& pixels = player_->pixels();
+    const uint8_t* at = &pixels.bytes.at(y * pixels.stride + x * 4);
+    return {at[0], at[1], at[2]};
+  }
+  bool ShowsPicture(int width, int height) {
+    return queue_.Until([&, this] {
+      const PixelSurface& pixels = player_->pixels();
+      return pixels.width == width && pixels.height == height && Pixel(1, 1)[2] > 150;
+    });
+  }
+
+  static inline fs::path folder_, start_;
+  Queue queue_;
+  std::unique_ptr<MpvPlayer> player_ = std::make_unique<MpvPlayer>(
+      [this](std::function<void()> closure) { queue_.Post(std::move(closure)); });
+};
+
+TEST(MpvVolume, IsTheCubeRootOfTheGain) {
+  const struct {
+    int hundredths;
+    double gain;
+  } kCases[] = {{0, 1},      {-2000, 0.1}, {-6000, 0.001}, {-9999, 1.00115e-5},
+                {-10000, 0}, {-20000, 0},  {500, 1}};
+  for (const auto& [hundredths, gain] : kCases) {
+    EXPECT_NEAR(std::pow(VolumePercent(hundredths) / 100, 3), gain, 1e-9) << hundredths;
+  }
+}
+
+TEST_F(MpvPlayerTest, OpensAnyNamedFilePausedAtItsStart) {
+  for (const char* name : {"tone.wav", "TONE.mp3", "clip.mpg", "turned.mp4", "-vo.wav",
+                           "a:b,c;%41&.wav", "caf\xe9.wav", ".\\\\tone.wav"}) {
+    ASSERT_TRUE(player_->RenderFile(name)) << name;
+    EXPECT_NEAR(player_->Length().value_or(-1), 1, 0.1) << name;
+    EXPECT_NEAR(player_->Position().value_or(-1), 0, 0.05) << name;
+  }
+}
+
+TEST_F(MpvPlayerTest, RefusesWhatIsNoMediaOfItsOwn) {
+  std::string noise(20000, '\0');
+  for (size_t i = 0; i < noise.size(); ++i) noise[i] = static_cast<char>(i * i * 2654435761u >> 13);
+  const std::pair<const char*, std::string> kFiles[] = {
+      {"zero.mp3", ""},
+      {"noise.mp3", noise},
+      {"list.m3u", "#EXTM3U\n/etc/passwd\n"},
+      {"list.mp3", "#EXTM3U\ntone.wav\n"},
+      {"segments.m3u8", "#EXTM3U\n#EXT-X-TARGETDURATION:1\n#EXTINF:1,\ntone.wav\n#EXT-X-ENDLIST\n"},
+      {"edit.wav", "# mpv EDL v0\ntone.wav\n"},
+      {"joined.wav", "ffconcat version 1.0\nfile tone.wav\n"},
+      {"sheet.cue", "FILE \"tone.wav\" WAVE\n  TRACK 01 AUDIO\n    INDEX 01 00:00:00\n"}};
+  for (const auto& [name, bytes] : kFiles) Write(name, bytes);
+  fs::create_directory("folder.wav");
+  for (const char* name :
+       {"zero.mp3", "noise.mp3", "list.m3u", "list.mp3", "segments.m3u8", "edit.wav", "joined.wav",
+        "sheet.cue", "folder.wav", "missing.wav", "missing.cdg", "", "http://localhost/a.mp3"}) {
+    ASSERT_TRUE(player_->RenderFile("tone.wav"));
+    EXPECT_FALSE(player_->RenderFile(name)) << name;
+    EXPECT_EQ(player_->Position(), std::nullopt) << name;
+    EXPECT_EQ(player_->Length(), std::nullopt) << name;
+  }
+  EXPECT_FALSE(player_->Run() || player_->Pause() || player_->Stop() || player_->SetPosition(0) ||
+               player_->SetRate(1) || player_->Rate() || player_->NativeSize());
+}
+
+TEST_F(MpvPlayerTest, EndsWithThePositionAtTheLengthAndPlaysAgain) {
+  for (const char* name : {"tone.wav", "tone.mp3", "clip.mpg", "cut.wav"}) {
+    ASSERT_TRUE(player_->RenderFile(name)) << name;
+    ASSERT_TRUE(player_->SetRate(2));
+    ASSERT_TRUE(PlayToEnd()) << name;
+    EXPECT_TRUE(player_->Stop());
+    EXPECT_TRUE(AtEnd()) << name;
+    ASSERT_TRUE(player_->SetPosition(0));
+    EXPECT_NEAR(*player_->Position(), 0, 0.05) << name;
+    EXPECT_TRUE(PlayToEnd()) << name;
+  }
+}
+
+// By then libmpv has read all of the file, and pauses by itself at the end.
+TEST_F(MpvPlayerTest, APauseJustBeforeTheEndIsNotTheEnd) {
+  ASSERT_TRUE(player_->RenderFile("clip.mpg"));
+  ASSERT_TRUE(player_->SetPosition(*player_->Length() - 0.1));
+  player_->Run();
+  player_->Pause();
+  for (int i = 0; i < 50; ++i) {
+    EXPECT_LT(*player_->Position(), *player_->Length());
+    player_->SetVolume(-100 * i);  // each call lets libmpv go a step further
+  }
+  EXPECT_TRUE(PlayToEnd());
+}
+
+TEST_F(MpvPlayerTest, PauseKeepsThePlace) {
+  ASSERT_TRUE(player_->RenderFile("tone.wav"));
+  EXPECT_TRUE(player_->SetBalance(-1000));
+  player_->Run();
+  ASSERT_TRUE(queue_.Until([this] { return *player_->Position() > 0.2; }));
+  ASSERT_TRUE(player_->Pause());
+  const double place = *player_->Position();
+  ASSERT_TRUE(player_->Run());
+  ASSERT_TRUE(queue_.Until([&, this] { return *player_->Position() != place; }));
+  EXPECT_GT(*player_->Position(), place - 0.05);
+  EXPECT_LT(*player_->Position(), 0.9);
+}
+
+TEST_F(MpvPlayerTest, RendersThePictureAtThePlacedSize) {
+  ASSERT_TRUE(player_->RenderFile("clip.mpg"));
+  const std::optional<VideoSize> size = player_->NativeSize();
+  ASSERT_TRUE(size);
+  EXPECT_NEAR(size->width, 427, 1);  // of 320: its pixels are wide
+  EXPECT_EQ(size->height, 240);
+
+  // Fills the box, whatever the ratio, also paused; from left red and blue.
+  for (const auto& [width, height] : {std::pair{100, 300}, {333, 21}}) {
+    ASSERT_TRUE(player_->PlaceVideo({VideoHost::kMainWindow, 0, 0, width, height}));
+    ASSERT_TRUE(ShowsPicture(width, height));
+    EXPECT_EQ(player_->pixels().bytes.size(), size_t(player_->pixels().stride) * height);
+    const std::vector<int> left = Pixel(0, height - 1), right = Pixel(width - 1, 0);
+    EXPECT_TRUE(left[2] > 200 && left[0] < 50 && right[0] > 200 && right[2] < 50) << width;
+  }
+
+  int frames = 0;
+  player_->on_frame = [&] { ++frames; };
+  player_->Run();
+  EXPECT_TRUE(queue_.Until([&] { return frames > 3; }));
+  frames = 0;
+  player_->Close();
+  EXPECT_EQ(frames, 1);
+  queue_.Drain();
+  EXPECT_EQ(frames, 1);
+  EXPECT_TRUE(player_->pixels().bytes.empty());
+}
+
+TEST_F(MpvPlayerTest, SurvivesATurnedPicture) {
+  ASSERT_TRUE(player_->RenderFile("turned.mp4"));
+  ASSERT_TRUE(player_->PlaceVideo({VideoHost::kSecondMonitor, 0, 0, 64, 48}));
+  EXPECT_TRUE(ShowsPicture(64, 48));
+}
+
+TEST_F(MpvPlayerTest, KaraokePlaysItsSoundFromTheStartWithThePicture) {
+  Write("Duo: A, B.cdg", Cdg(150));
+  Write("duo: a, b.MP3", Read("tone.mp3"));
+  ASSERT_TRUE(player_->RenderFile("Duo: A, B.cdg"));
+  EXPECT_NEAR(*player_->Length(), 1.03, 0.05);  // the sound's, not the CDG's 2 s
+  EXPECT_NEAR(*player_->Position(), 0, 0.05);   // though its first picture comes at 0.5 s
+  EXPECT_EQ(player_->NativeSize()->width, 300);
+  ASSERT_TRUE(player_->PlaceVideo({VideoHost::kMainWindow, 0, 0, 50, 40}));
+  EXPECT_TRUE(ShowsPicture(50, 40));
+  EXPECT_TRUE(PlayToEnd());
+
+  ASSERT_TRUE(player_->RenderFile("cover.mp3"));
+  EXPECT_FALSE(player_->NativeSize());
+  EXPECT_FALSE(player_->PlaceVideo({VideoHost::kMainWindow, 0, 0, 50, 40}));
+  EXPECT_TRUE(player_->pixels().bytes.empty());
+}
+
+TEST_F(MpvPlayerTest, KaraokeMakesDoWithOneOfItsFiles) {
+  Write("silent.cdg", Cdg(0));
+  ASSERT_TRUE(player_->RenderFile("silent.CDG"));
+  EXPECT_NEAR(*player_->Length(), 2, 0.05);
+  EXPECT_TRUE(player_->NativeSize());
+
+  Write("tone.cdg", "");
+  ASSERT_TRUE(player_->RenderFile("tone.cdg"));
+  EXPECT_FALSE(player_->NativeSize());
+  EXPECT_TRUE(PlayToEnd());
+}
+
+TEST_F(MpvPlayerTest, APictureOnItsWayToAPlayerThatIsGoneIsDropped) {
+  ASSERT_TRUE(player_->RenderFile("clip.mpg"));
+  player_->PlaceVideo({VideoHost::kMainWindow, 0, 0, 64, 48});
+  player_->on_frame = [] { ADD_FAILURE(); };
+  player_.reset();
+  queue_.Drain();
+}
+
+}  // namespace
+}  // namespace sonotik

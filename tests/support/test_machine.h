@@ -1,0 +1,180 @@
+// A machine that a test moves by hand: its clock, its player, its keys.
+#ifndef SONOTIK_TESTS_SUPPORT_TEST_MACHINE_H_
+#define SONOTIK_TESTS_SUPPORT_TEST_MACHINE_H_
+
+#include <cmath>
+#include <functional>
+#include <map>
+#include <random>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "platform/machine.h"
+
+namespace sonotik {
+
+// A day in winter, so that no summer time interferes; moved only by Advance.
+class TestClock : public Clock {
+ public:
+  DateTime Now() const override {
+    const int64_t seconds = start_of_day_ + ms_ / 1000;
+    return {date, static_cast<int>(seconds / 3600 % 24), static_cast<int>(seconds / 60 % 60),
+            static_cast<int>(seconds % 60)};
+  }
+  int64_t Milliseconds() const override { return ms_; }
+  void Add(int64_t ms) { ms_ += ms; }
+
+  Date date{2024, 1, 15};
+
+ private:
+  int64_t start_of_day_ = 12 * 3600;
+  int64_t ms_ = 0;
+};
+
+class TestRandom : public RandomSource {
+ public:
+  double Next() override { return std::uniform_real_distribution<double>(0, 1)(engine_); }
+  void Seed(uint64_t seed) override { engine_.seed(seed); }
+
+ private:
+  std::mt19937_64 engine_{1};
+};
+
+// Plays nothing, and keeps book. A file's length comes from `lengths` by its path, 30 s if it isn't
+// there; a length below 0 makes a file that can't be rendered.
+class TestPlayer : public Player {
+ public:
+  std::map<std::string, double> lengths;
+  std::optional<VideoSize> native_size;
+  std::vector<std::string> calls;
+  std::string file;
+  int volume = 0;
+  VideoPlacement placement;
+
+  bool playing() const { return running_; }
+  void Add(double seconds) {
+    if (running_) position_ = std::min(length_, position_ + seconds);
+  }
+
+  bool RenderFile(const std::string& path) override {
+    calls.push_back("RenderFile " + path);
+    file = path;
+    position_ = 0;
+    running_ = false;
+    const auto known = lengths.find(path);
+    length_ = known == lengths.end() ? 30 : known->second;
+    open_ = length_ >= 0;
+    return open_;
+  }
+  bool Run() override { return Note("Run") && (running_ = open_); }
+  bool Pause() override { return Note("Pause") && !(running_ = false) && open_; }
+  bool Stop() override { return Note("Stop") && !(running_ = false) && open_; }
+  void Close() override {
+    Note("Close");
+    open_ = running_ = false;
+  }
+  std::optional<double> Position() override {
+    return open_ ? std::optional(position_) : std::nullopt;
+  }
+  bool SetPosition(double seconds) override {
+    Note("SetPosition");
+    if (open_) position_ = seconds;
+    return open_;
+  }
+  std::optional<double> Length() override { return open_ ? std::optional(length_) : std::nullopt; }
+  bool SetRate(double) override { return open_; }
+  std::optional<double> Rate() override { return open_ ? std::optional(1.0) : std::nullopt; }
+  bool SetVolume(int hundredths) override {
+    Note("SetVolume " + std::to_string(hundredths));
+    volume = hundredths;
+    return open_;
+  }
+  bool SetBalance(int) override { return open_; }
+  std::optional<VideoSize> NativeSize() override { return native_size; }
+  bool PlaceVideo(const VideoPlacement& at) override {
+    placement = at;
+    return native_size.has_value();
+  }
+
+ private:
+  bool Note(const std::string& call) {
+    calls.push_back(call);
+    return true;
+  }
+
+  bool open_ = false;
+  bool running_ = false;
+  double position_ = 0;
+  double length_ = 0;
+};
+
+class TestEvents : public EventLoop {
+ public:
+  // Runs at each pump: what a guest does while a handler lets events run.
+  std::function<void()> on_pump = [] {};
+  int pumps = 0;
+  bool left = false;
+  int exit_status = -1;
+
+  void PumpEvents() override {
+    ++pumps;
+    on_pump();
+  }
+  void Leave(int status) override {
+    left = true;
+    exit_status = status;
+  }
+};
+
+class TestKeys : public KeyState {
+ public:
+  std::set<int> down;
+  bool IsDown(int virtual_key) override { return down.contains(virtual_key); }
+};
+
+class TestDisplays : public Displays {
+ public:
+  int monitors = 1;
+  bool full_screen = false;
+  bool top_most = false;
+  bool pointer = true;
+  int MonitorCount() override { return monitors; }
+  DisplayMode CurrentMode() override { return {1280, 800, 24, 60}; }
+  void SetFullScreen(bool on) override { full_screen = on; }
+  void SetTopMost(bool on) override { top_most = on; }
+  void SetMousePointerVisible(bool visible) override { pointer = visible; }
+};
+
+class TestProcesses : public Processes {
+ public:
+  std::vector<std::string> started;
+  void StartProgram(const std::string& path, WindowState) override { started.push_back(path); }
+  void StartCommand(const std::string& command, WindowState) override {
+    started.push_back(command);
+  }
+};
+
+class TestMessages : public MessageBox {
+ public:
+  std::vector<std::string> shown;
+  void Show(const std::string& text) override { shown.push_back(text); }
+};
+
+struct TestMachine {
+  TestClock clock;
+  TestRandom random;
+  TestEvents events;
+  Timers timers{clock};
+  TestKeys keys;
+  TestPlayer player;
+  TestDisplays displays;
+  TestProcesses processes;
+  TestMessages messages;
+  Machine machine{clock,  random,   events,    timers,  keys,
+                  player, displays, processes, messages};
+};
+
+}  // namespace sonotik
+
+#endif  // SONOTIK_TESTS_SUPPORT_TEST_MACHINE_H_

@@ -1,0 +1,197 @@
+#include "tags/tag_reader.h"
+
+#include <gtest/gtest.h>
+
+#include <vector>
+
+#include "files/runtime_failure.h"
+#include "tags/clsWMAHeadReader.h"
+#include "tags/tag_bytes.h"
+#include "text/text.h"
+
+namespace sonotik {
+namespace {
+
+class TagReaders : public testing::Test {
+ protected:
+  // In the order of their declaration, artist first and the running time last.
+  std::string All() const {
+    const auto& [a, b, c, d, e, f, g, h, i, j, k, l, m] = fields;
+    std::string all;
+    for (const auto* text : {&a, &b, &c, &d, &e, &f, &g, &h, &i, &j, &k, &l, &m})
+      all += *text + "|";
+    return all;
+  }
+
+  Scratch scratch;
+  TagFields fields{"was", "was", "was", "was", "was", "was", "was",
+                   "was", "was", "was", "was", "was", "was"};
+  bool use_filename = false;
+  TagReader reader{fields, [this] { return use_filename; }};
+};
+
+const std::string kSidecar =
+    "<song>\n  <artist>A & B</artist> \n<title>T&</title>\n<album>Al</album>\n<comp>Co</comp>\n"
+    "<track>3/12</track>\n<year>1984</year>\n<genre>Soul</genre>\n<originalname></originalname>\n"
+    "<description>Fine</description>\n\n<duration>3:07</duration>\n</song>\n";
+
+// The content description with its strings, then what is left of the header.
+std::string Wma(const std::string& object_size, const std::vector<std::string>& strings) {
+  std::string file = std::string(30, 'h') + "\x33\x26\xB2\x75\x8E\x66\xCF\x11\xA6\xD9" +
+                     Bytes("\0\xAA\0\x62\xCE\x6C") + object_size + Zeros(6);
+  for (const std::string& text : strings) file += {static_cast<char>(2 * text.size() + 2), '\0'};
+  for (const std::string& text : strings) file += Wide(text + '\0');
+  return file + "\x40\xA4\xD0\xD2" +
+         Wide("128 kbps, 44 kHz, stereo WM/Year\n1999WM/AlbumTitle\6Al") + std::string(5100, '.');
+}
+
+std::string Atom(const std::string& name, const std::string& value) {
+  return name + Big(16 + value.size()) + "data" + Big(1) + Big(0) + value + '\0';
+}
+std::string M4a(const std::string& atoms, size_t at = 30000) {
+  return Zeros(4) + "ftypM4A " + Zeros(4) + "mpM4A mp42" + Zeros(at - 26) + atoms;
+}
+
+TEST_F(TagReaders, EveryCallerKeepsItsOwnWays) {
+  const std::pair<TagCaller, std::string> rows[] = {
+      {TagCaller::kAddQueue, "1333"},       {TagCaller::kTrackList, "1223"},
+      {TagCaller::kShowNext, "1223"},       {TagCaller::kPlayTrack, "1233"},
+      {TagCaller::kUpdateQueue, "1233"},    {TagCaller::kPlayOptions, "1233"},
+      {TagCaller::kQueueRow, "1233"},       {TagCaller::kTrackRowClick, "1233"},
+      {TagCaller::kBurnOrDownload, "1111"}, {TagCaller::kQueueUpl, "1233"}};
+  const std::string kinds[] = {"a.Mp3", "a.m4a", "a.M4p", "a.mpg"};
+  for (const std::string& kind : kinds) {
+    scratch.Put(kind, std::string(18, 'x') + Bytes("2\0"));
+    scratch.Put(kind + ".tag", ReplaceAll(kSidecar, "T&", "3"));
+  }
+  for (const auto& [caller, expected] : rows) {
+    std::string used;
+    for (const std::string& kind : kinds) {
+      reader.ReadFor(caller, scratch.Path(kind));
+      used += fields.txtTitle.empty() ? "1" : fields.txtTitle;
+    }
+    EXPECT_EQ(used, expected) << static_cast<int>(caller);
+  }
+  // The kind is told before anything is trimmed.
+  reader.ReadFor(TagCaller::kTrackList, scratch.Path("a.Mp3") + " ");
+  EXPECT_EQ(fields.txtTitle, kNoTag);
+}
+
+TEST_F(TagReaders, ReadtagTakesId3v2OrNothing) {
+  const std::string v1 = Id3v1("Old", Zeros(3));
+  const std::string audio = "\xFF\xFB\x90\x64" + std::string(185 * 16000 - 132, 'x') + v1;
+  std::string frames = Frame3("COMM", Bytes("\0eng\0Co")) + Frame3("WXXX", Bytes("\0\0www")) +
+                       Frame3("TCON", Latin("(17)"));
+  for (const char* id : {"TPE1", "TALB", "TIT2", "TRCK", "TYER", "TCOM", "TOPE", "TCOP", "TENC"}) {
+    frames += Frame3(id, Latin(std::string(id) + "&"));
+  }
+  reader.Readtag(scratch.Put("a.mp3", Tag(3, 0, frames) + audio));
+  EXPECT_EQ(All(), "TPE1&&|TALB&|TIT2&&|TRCK&|TYER&|Co|TCOM&|TOPE&|TCOP&|www|TENC&|Rock|3:05|");
+  reader.Readtag(scratch.Put("b.mp3", audio));
+  EXPECT_EQ(All(), "||||||||||||3:05|");
+  reader.Readtag(scratch.Path("none.mp3"));
+  EXPECT_EQ(All(), "||||||||||||0:00|");
+  // Where the tag breaks the reading, what ID3v1 gave is left.
+  EXPECT_THROW(reader.Readtag(scratch.Put("c.mp3", Tag(3, 0, "") + v1)), RuntimeFailure);
+  EXPECT_EQ(fields.txtTitle, "Old");
+}
+
+TEST_F(TagReaders, SidecarFillsItsFieldsAndLeavesTheOthers) {
+  scratch.Put("clip.mpg", "x");
+  for (const char* line_end : {"\r\n", "\n"}) {
+    scratch.Put("clip.mpg.tag", ReplaceAll(kSidecar, "\n", line_end));
+    for (const char* name : {"clip.mpg", "clip.mpg.tag"}) {
+      reader.Readtag3(scratch.Path(name));
+      EXPECT_EQ(All(), "A && B|Al|T&&|3/12|1984|Fine|Co|was|was|was|was|Soul|3:07|") << name;
+    }
+  }
+  // By itself it doubles nothing, and trims the path.
+  reader.ReadTagSidecar("  " + scratch.Path("clip.mpg") + "  ");
+  EXPECT_EQ(fields.txtArtist, "A & B");
+  // A path too short to have an extension loses nothing but the running time.
+  std::filesystem::current_path(scratch.Native(""));
+  scratch.Put("a.mp.tag", ReplaceAll(kSidecar, "A & B", "New"));
+  reader.ReadTagSidecar("a.mp");
+  EXPECT_EQ(fields.txtArtist + fields.txtmp3time, "A & B");
+  std::filesystem::current_path("/");
+}
+
+TEST_F(TagReaders, BrokenSidecarsAreFailures) {
+  const std::string path = scratch.Put("clip.mpg", "x");
+  scratch.Put("clip.mpg.tag", ReplaceAll(kSidecar, "</originalname>", "</originalnam>"));
+  EXPECT_THROW(reader.Readtag3(path), RuntimeFailure);
+  EXPECT_EQ(All(), "A & B|Al|T&|3/12|1984|was|Co|was|was|was|was|Soul||");
+  scratch.Put("clip.mpg.tag", ReplaceAll(kSidecar, "</song>\n", ""));
+  EXPECT_THROW(reader.Readtag3(path), RuntimeFailure);
+}
+
+TEST_F(TagReaders, NoTagAndTheNameInItsPlace) {
+  std::string no_tag;
+  for (int i = 0; i < 12; ++i) no_tag += "No Tag|";
+  use_filename = true;
+  // A file that is there and has no sidecar never gets its name as title.
+  reader.Readtag3(scratch.Put("clip.mpg", "x"));
+  EXPECT_EQ(All(), no_tag + "|");
+  fields.txtmp3time = "was";
+  reader.Readtag3(scratch.Path("R&B.wma"));
+  EXPECT_EQ(fields.txtTitle, scratch.Path("R&&B.wma"));
+  use_filename = false;
+  for (const std::string& missing :
+       {scratch.Path("R&B.wma"), scratch.Path("x.mpg"), std::string()}) {
+    reader.Readtag3(missing);
+    EXPECT_EQ(All(), no_tag + "was|") << missing;
+  }
+}
+
+TEST_F(TagReaders, WmaNamesAreFoundByTheirLengths) {
+  const std::string size = Bytes("\x50\0");
+  const std::string unlike = Wma(size, {"Song", "Band"}).replace(58, 2, "A\1");
+  const std::pair<std::string, std::string> rows[] = {
+      {Wma(size, {"Song", "R&B"}), "R&&B|Al|Song|was|1999|"},
+      {Wma(size, {"Song", "Band", "(c)"}), "Band|Al|Song|was|1999|"},
+      {Wma("\x50\1", {"Song", "Band", "(c)"}), "Band|Al|Song|was|1999|"},
+      {Wma("\x50\3", {"Song", "Band", "(c)"}), "|Al||was|1999|"},
+      {Wma(size, {}), "|Al||was|1999|"},
+      {unlike, "|Al||was|1999|"},  // a letter above 255 upsets the lengths
+      {std::string(4000, 'x') + "WM/Year\1x" + std::string(2000, 'x'), "|||was||"},
+      {std::string(5003, 'x') + "WM/Year", "|||was||"}};
+  for (const auto& [file, expected] : rows) {
+    reader.Readtag3(scratch.Put("a.wma", file));
+    EXPECT_EQ(All().substr(0, expected.size() + 25), expected + "|was|was|was|was|was|was|");
+  }
+}
+
+TEST_F(TagReaders, WmaTimeComesFromTheBitRate) {
+  const std::string path = scratch.Put("a.wma", Wma(Bytes("\x50\0"), {"Song", "Band"}));
+  std::filesystem::resize_file(scratch.Native("a.wma"), 125 * 16000 + 15999);
+  reader.Readtag3(path);
+  EXPECT_EQ(fields.txtmp3time, "2:5");
+  std::filesystem::resize_file(scratch.Native("a.wma"), 1000000);
+  InfotagRecord record;
+  clsWMAHeadReader(record).Get_WMA_Header(path);
+  EXPECT_EQ(record.Length, 61);
+  EXPECT_EQ(record.Mode + std::to_string(record.Frequency), "Stereo0");
+  EXPECT_EQ(clsWMAHeadReader::fTime(3600), "10:00:00");
+  // A header of 5,000 bytes that aren't NUL has to be there, behind the first ten.
+  reader.Readtag3(scratch.Put("b.wma", std::string(5010, 'x')));
+  EXPECT_EQ(fields.txtmp3time, "");
+  EXPECT_THROW(reader.Readtag3(scratch.Put("b.wma", std::string(5009, 'x') + Zeros(9))),
+               RuntimeFailure);
+}
+
+TEST_F(TagReaders, AtomsAreSeenFromThirtyThousandOn) {
+  const std::string atoms = Atom("nam", "So&ng") + Atom("ART", "B\xC3\xA9") + Atom("alb", "Al");
+  reader.Readtag2(scratch.Put("a.m4a", M4a(atoms + Atom("day", "2001"))));
+  EXPECT_EQ(All(), "B\xC3\xA9|Al|So&ng|was|2001||was|was|was|was|was|was|was|");
+  // Without an atom the text at character 19 stands in for it.
+  for (const auto& [at, title] :
+       {std::pair(29998, "M4A mp42"), {29999, "So&ng"}, {65536, "M4A mp42"}}) {
+    reader.Readtag2(scratch.Put("b.m4a", M4a(atoms, static_cast<size_t>(at))));
+    EXPECT_EQ(fields.txtTitle + fields.txtYear, title + std::string("M4A mp42"));
+  }
+  EXPECT_THROW(reader.Readtag2(scratch.Put("c.m4a", "")), RuntimeFailure);
+  EXPECT_THROW(reader.Readtag2(scratch.Path("none.m4a")), RuntimeFailure);
+}
+
+}  // namespace
+}  // namespace sonotik

@@ -1,0 +1,90 @@
+#include "text/text.h"
+
+#include <gtest/gtest.h>
+
+#include "text/dates.h"
+#include "text/numbers.h"
+
+namespace sonotik {
+namespace {
+
+TEST(Text, OnlyBlanksAreTrimmed) {
+  EXPECT_EQ(TrimBlanks("  a b  "), "a b");
+  EXPECT_EQ(TrimBlanks("\t a\r\n "), "\t a\r\n");
+  EXPECT_EQ(TrimBlanks("   "), "");
+}
+
+TEST(Text, CaseConcernsAsciiLettersOnlySoThatUtf8StaysWhole) {
+  EXPECT_EQ(UpperCase("caf\xC3\xA9 z"), "CAF\xC3\xA9 Z");
+  EXPECT_TRUE(EqualsIgnoringCase("Records.CVR", "records.cvr"));
+  EXPECT_TRUE(ContainsIgnoringCase("\\Music\\A.mp3", "music"));
+  EXPECT_TRUE(ContainsIgnoringCase("anything", ""));
+  EXPECT_FALSE(ContainsIgnoringCase("abc", "abcd"));
+  EXPECT_TRUE(LessIgnoringCase("apple", "Banana"));
+}
+
+TEST(Text, AmpersandsAreDoubledForCaptions) {
+  EXPECT_EQ(DoubleAmpersands("Rock & Roll && more"), "Rock && Roll &&&& more");
+  EXPECT_EQ(SingleAmpersands("Rock && Roll"), "Rock & Roll");
+}
+
+TEST(Text, DigitsAreCutToTheLastOnes) {
+  EXPECT_EQ(LastDigits(7, 4), "0007");
+  EXPECT_EQ(LastDigits(100, 2), "00");
+  EXPECT_EQ(LastDigits(12345, 4), "2345");
+}
+
+TEST(Numbers, ABlankStandsForThePlusSign) {
+  EXPECT_EQ(NumberCaption(1), " 1");
+  EXPECT_EQ(NumberCaption(-1), "-1");
+  EXPECT_EQ(NumberField(0L), " 0 ");
+  EXPECT_EQ(NumberField(-12L), "-12 ");
+  EXPECT_EQ(NumberField(2.5), " 2.5 ");
+  EXPECT_EQ(NumberField(5.0), " 5 ");
+  EXPECT_EQ(NumberField(-0.1), "-0.1 ");
+}
+
+TEST(Numbers, AreReadWholeOrNotAtAll) {
+  const struct {
+    const char* text;
+    std::optional<double> number;
+  } cases[] = {{" 12 ", 12}, {"-1 ", -1},  {"", 0},      {"   ", 0},  {"+3", 3},
+               {"1.5", 1.5}, {"1e3", 1000}, {"12x", {}},  {"x", {}},   {"1,5", {}},
+               {"inf", {}},  {"nan", {}},   {"0x10", {}}, {"1e999", {}}};
+  for (const auto& c : cases) EXPECT_EQ(ParseNumber(c.text), c.number) << c.text;
+  EXPECT_EQ(LeadingNumber(" 3 Songs"), 3);
+  EXPECT_EQ(LeadingNumber("Songs"), 0);
+  EXPECT_EQ(NumberOrZero("12 s"), 0);
+}
+
+TEST(Numbers, TiesGoToTheEvenNumberAndDivisionGoesDown) {
+  EXPECT_EQ(RoundHalfEven(2.5), 2);
+  EXPECT_EQ(RoundHalfEven(3.5), 4);
+  EXPECT_EQ(RoundToHundredths(12.344), 12.34);
+  EXPECT_EQ(FloorDiv(-1, 12), -1);
+  EXPECT_EQ(FloorDiv(-12, 12), -1);
+  EXPECT_EQ(FloorDiv(11, 12), 0);
+}
+
+TEST(Dates, AreReadWithAndWithoutLeadingZeros) {
+  EXPECT_EQ(DateText({2024, 3, 7}), "03/07/2024");
+  EXPECT_EQ(ParseDate("03/07/2024"), (Date{2024, 3, 7}));
+  EXPECT_EQ(ParseDate(" 3/7/2024 "), (Date{2024, 3, 7}));
+  for (const char* none : {"", "13/01/2024", "02/30/2024", "1/2", "1/2/3/4", "-1/2/2024", "a/b/c",
+                           "007/01/2024", "2024-01-01"}) {
+    EXPECT_EQ(ParseDate(none), std::nullopt) << none;
+  }
+  EXPECT_EQ(DaysBetween({2024, 2, 28}, {2024, 3, 1}), 2);
+  EXPECT_EQ(DaysBetween({2024, 3, 1}, {2024, 2, 28}), -2);
+}
+
+TEST(Dates, TimesAreShownInWholeSeconds) {
+  EXPECT_EQ(TimeText({{2024, 1, 1}, 7, 5, 9}), "07:05:09");
+  EXPECT_EQ(MinutesSeconds(0), "0:00");
+  EXPECT_EQ(MinutesSeconds(59.9), "0:59");
+  EXPECT_EQ(MinutesSeconds(605), "10:05");
+  EXPECT_EQ(MinutesSeconds(-3), "0:00");
+}
+
+}  // namespace
+}  // namespace sonotik

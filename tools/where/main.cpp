@@ -1,0 +1,57 @@
+// Says where the controls of the plain look stand, so that the tour can press them with a real
+// mouse: one line each of name, left, top, width and height.
+#include <iostream>
+#include <string>
+
+#include "forms/Form1.h"
+
+namespace sonotik {
+namespace {
+
+void Say(const std::string& name, const Control& control) {
+  const Rect place = control.AbsolutePlace();
+  std::cout << name << ' ' << place.left << ' ' << place.top << ' ' << place.width << ' '
+            << place.height << '\n';
+}
+
+void SayAll(const Form1& form) {
+  Say("position", form.position);
+  Say("menu_queue", form.menu_buttons[static_cast<size_t>(MenuButton::kShowQueue)]);
+  Say("menu_carousel", form.menu_buttons[static_cast<size_t>(MenuButton::kCarousel)]);
+  Say("menu_album", form.menu_buttons[static_cast<size_t>(MenuButton::kAlbumView)]);
+  Say("pause", form.player_buttons[static_cast<size_t>(PlayerButton::kPause)]);
+  Say("next_track", form.player_buttons[static_cast<size_t>(PlayerButton::kNext)]);
+  Say("now_playing", form.now_playing_title);
+  Say("page_next", form.album.next);
+  Say("page_previous", form.album.previous);
+  Say("jump_to_letter", form.album.jump_to_letter);
+  Say("jump_done", form.jump_to_letter.done);
+  for (size_t i = 0; i < form.album.tabs.size(); ++i) {
+    Say("tab" + std::to_string(i), form.album.tabs[i]);
+  }
+  for (size_t i = 0; i < kDesignCovers; ++i) {
+    Say("cover" + std::to_string(i), form.album.covers[i].cover);
+  }
+  for (size_t i = 0; i < form.track_list.rows.size(); ++i) {
+    Say("track" + std::to_string(i), form.track_list.rows[i].title);
+  }
+  Say("track_back", form.track_list.back);
+  Say("add_entire_album", form.track_list.add_entire_album);
+  Say("play_now", form.play_options.play_now);
+  Say("play_next", form.play_options.play_next);
+  Say("add_to_queue", form.play_options.add_to_queue);
+  Say("cancel", form.play_options.cancel);
+  for (size_t i = 0; i < form.queue.rows.size(); ++i) {
+    Say("queue" + std::to_string(i), form.queue.rows[i].touch);
+  }
+  Say("queue_back", form.queue.back);
+  Say("full_screen", form.now_playing.full_screen);
+}
+
+}  // namespace
+}  // namespace sonotik
+
+int main() {
+  const sonotik::Form1 form;
+  sonotik::SayAll(form);
+}
