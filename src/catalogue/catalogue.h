@@ -31,7 +31,7 @@ struct CatalogueCursor {
   void SetPosition(CatalogueSource of, long position);
 
  private:
-  std::array<int, 5> positions_{};
+  std::array<int, 5> positions_{1, 0, 0, 0, 0};  // by source
 };
 
 class Catalogue {

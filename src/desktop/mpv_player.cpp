@@ -204,7 +204,7 @@ bool MpvPlayer::RenderFile(const std::string& path) {
 
   SetFlag(mpv_.get(), "pause", true);
   SetText(mpv_.get(), "vf", karaoke ? kKaraokeFilter : "");
-  // An added picture stays chosen by its number, which in the next file may be a cover.
+  // A picture once added stays chosen by its number, which the next file may not have.
   SetText(mpv_.get(), "vid", "auto");
   open_ = Load(sound.empty() ? file : sound);
   if (open_ && !sound.empty() && Command(mpv_.get(), {"video-add", file.c_str(), "select"})) {

@@ -7,6 +7,7 @@ using namespace design;
 
 void AddRow(Panel& panel, QueueRow& row, float top) {
   AddLabel(panel, row.touch, {24, top, 950, 92}, 11);
+  row.touch.SetPlate(kPanel);
   AddPicture(panel, row.cover, {80, top + 6, 80, 80});
   AddLabel(panel, row.number, {32, top + 26, 44, 40}, 15, kMuted, Align::kCenter);
   AddLabel(panel, row.track, {176, top + 6, 660, 28}, 13, kText, Align::kLeft, true);
@@ -31,8 +32,10 @@ QueueScreen::QueueScreen(Panel& screen) : panel(screen) {
   static constexpr const char* kCaptions[] = {"Move Up",     "Move Down", "Remove Song",
                                               "Play Now",    "Clear Queue", "Burn CD",
                                               "Shuffle Queue"};
+  // "Burn CD" is the one that few cabinets show: it stands last.
+  static constexpr float kPlaces[] = {0, 1, 2, 3, 5, 6, 4};
   for (size_t i = 0; i < commands.size(); ++i) {
-    AddButton(panel, commands[i], {1000, 20 + 62 * static_cast<float>(i), 256, 54}, kCaptions[i]);
+    AddButton(panel, commands[i], {1000, 20 + 62 * kPlaces[i], 256, 54}, kCaptions[i]);
   }
   AddButton(panel, up, {1000, 470, 122, 60}, "Up", 14);
   AddButton(panel, down, {1134, 470, 122, 60}, "Down", 14);

@@ -30,6 +30,8 @@ TrackListScreen::TrackListScreen(Panel& screen) : panel(screen) {
     AddLabel(panel, rows[i].title, {kRowsLeft, top, kRowsWidth - 92, kRowHeight - 4}, 13);
     AddLabel(panel, rows[i].time, {kRowsLeft + kRowsWidth - 88, top, 88, kRowHeight - 4}, 12,
              kMuted, Align::kRight);
+    rows[i].title.SetPlate(kPanel);
+    rows[i].time.SetPlate(kPanel);
   }
   AddButton(panel, up, {kRowsLeft, 576, 312, 50}, "Up", 14);
   AddButton(panel, down, {kRowsLeft + 328, 576, 312, 50}, "Down", 14);

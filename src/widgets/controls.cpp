@@ -3,6 +3,12 @@
 #include <cctype>
 
 namespace sonotik {
+namespace {
+
+// Between the edge of a plate and its text.
+constexpr float kPlateMargin = 8;
+
+}  // namespace
 
 std::string CaptionAsShown(const std::string& caption) {
   std::string shown;
@@ -20,8 +26,10 @@ std::string CaptionAsShown(const std::string& caption) {
 
 void Label::Paint(Canvas& canvas) const {
   const Rect inner{0, 0, place().width, place().height};
-  if (filled_) canvas.FillRect(inner, back_color_, 4);
-  if (!caption_.empty()) canvas.DrawText(CaptionAsShown(caption_), inner, style_);
+  const bool plate = highlighted_ || plate_;
+  if (plate) canvas.FillRect(inner, highlighted_ ? back_color_ : *plate_, 4);
+  if (caption_.empty()) return;
+  canvas.DrawText(CaptionAsShown(caption_), plate ? inner.Inset(kPlateMargin) : inner, style_);
 }
 
 void PictureBox::Paint(Canvas& canvas) const {

@@ -2,6 +2,7 @@
 #ifndef SONOTIK_WIDGETS_CONTROLS_H_
 #define SONOTIK_WIDGETS_CONTROLS_H_
 
+#include <optional>
 #include <string>
 
 #include "widgets/control.h"
@@ -22,11 +23,13 @@ class Label : public Control {
   void SetFont(Font font) { Change(style_.font, std::move(font)); }
   void SetAlign(Align align) { Change(style_.align, align); }
   void SetWrap(bool wrap) { Change(style_.wrap, wrap); }
-  // The back colour shows only while `opaque` is set: a highlighted row.
+  // The back colour shows only while the label is highlighted: a chosen row.
   Color back_color() const { return back_color_; }
   void SetBackColor(Color color) { Change(back_color_, color); }
-  bool highlighted() const { return filled_; }
-  void SetHighlighted(bool filled) { Change(filled_, filled); }
+  bool highlighted() const { return highlighted_; }
+  void SetHighlighted(bool highlighted) { Change(highlighted_, highlighted); }
+  // A plate behind the text of a row that isn't highlighted.
+  void SetPlate(Color color) { Change(plate_, std::optional<Color>(color)); }
 
   void Paint(Canvas& canvas) const override;
 
@@ -34,7 +37,8 @@ class Label : public Control {
   std::string caption_;
   TextStyle style_;
   Color back_color_ = 0;
-  bool filled_ = false;
+  std::optional<Color> plate_;
+  bool highlighted_ = false;
 };
 
 class PictureBox : public Control {

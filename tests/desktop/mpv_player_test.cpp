@@ -108,6 +108,12 @@ class MpvPlayerTest : public testing::Test {
   bool PlayToEnd() {
     return player_->Run() && queue_.Until([this] { return AtEnd(); });
   }
+  // Each call lets libmpv go a step further, if it plays.
+  bool StandsStill() {
+    const std::optional<double> place = player_->Position();
+    for (int i = 0; i < 500; ++i) player_->SetVolume(-10 * i);
+    return player_->Position() == place;
+  }
   // Blue, green and red of the picture shown.
   std::vector<int> Pixel(int x, int y) {
     const PixelSurface& pixels = player_->pixels();
@@ -192,24 +198,26 @@ TEST_F(MpvPlayerTest, APauseJustBeforeTheEndIsNotTheEnd) {
   ASSERT_TRUE(player_->SetPosition(*player_->Length() - 0.1));
   player_->Run();
   player_->Pause();
-  for (int i = 0; i < 50; ++i) {
-    EXPECT_LT(*player_->Position(), *player_->Length());
-    player_->SetVolume(-100 * i);  // each call lets libmpv go a step further
-  }
+  EXPECT_TRUE(StandsStill());
+  EXPECT_LT(*player_->Position(), *player_->Length());
   EXPECT_TRUE(PlayToEnd());
 }
 
-TEST_F(MpvPlayerTest, PauseKeepsThePlace) {
+TEST_F(MpvPlayerTest, PauseKeepsThePlaceAndTheNextFileOpensPaused) {
   ASSERT_TRUE(player_->RenderFile("tone.wav"));
   EXPECT_TRUE(player_->SetBalance(-1000));
   player_->Run();
   ASSERT_TRUE(queue_.Until([this] { return *player_->Position() > 0.2; }));
   ASSERT_TRUE(player_->Pause());
+  EXPECT_TRUE(StandsStill());
   const double place = *player_->Position();
   ASSERT_TRUE(player_->Run());
   ASSERT_TRUE(queue_.Until([&, this] { return *player_->Position() != place; }));
   EXPECT_GT(*player_->Position(), place - 0.05);
   EXPECT_LT(*player_->Position(), 0.9);
+
+  ASSERT_TRUE(player_->RenderFile("tone.mp3"));
+  EXPECT_TRUE(StandsStill());
 }
 
 TEST_F(MpvPlayerTest, RendersThePictureAtThePlacedSize) {
@@ -251,16 +259,27 @@ TEST_F(MpvPlayerTest, KaraokePlaysItsSoundFromTheStartWithThePicture) {
   Write("duo: a, b.MP3", Read("tone.mp3"));
   ASSERT_TRUE(player_->RenderFile("Duo: A, B.cdg"));
   EXPECT_NEAR(*player_->Length(), 1.03, 0.05);  // the sound's, not the CDG's 2 s
-  EXPECT_NEAR(*player_->Position(), 0, 0.05);   // though its first picture comes at 0.5 s
+  EXPECT_NEAR(*player_->Position(), 0, 0.05);   // though the picture comes at 0.5 s
   EXPECT_EQ(player_->NativeSize()->width, 300);
   ASSERT_TRUE(player_->PlaceVideo({VideoHost::kMainWindow, 0, 0, 50, 40}));
+  player_->Run();
   EXPECT_TRUE(ShowsPicture(50, 40));
+  EXPECT_NEAR(*player_->Position(), 0.5, 0.2);
   EXPECT_TRUE(PlayToEnd());
+}
 
-  ASSERT_TRUE(player_->RenderFile("cover.mp3"));
-  EXPECT_FALSE(player_->NativeSize());
-  EXPECT_FALSE(player_->PlaceVideo({VideoHost::kMainWindow, 0, 0, 50, 40}));
-  EXPECT_TRUE(player_->pixels().bytes.empty());
+TEST_F(MpvPlayerTest, ACoverInTheSoundIsNoPicture) {
+  Write("cover.cdg", Cdg(0));
+  for (int i = 0; i < 2; ++i) {
+    ASSERT_TRUE(player_->RenderFile("cover.cdg"));
+    ASSERT_TRUE(player_->NativeSize());
+    EXPECT_EQ(player_->NativeSize()->width, 300);
+    ASSERT_TRUE(player_->RenderFile("clip.mpg"));
+    EXPECT_TRUE(player_->NativeSize());  // also after a file whose picture was the second
+    ASSERT_TRUE(player_->RenderFile("cover.mp3"));
+    EXPECT_FALSE(player_->NativeSize());
+    EXPECT_FALSE(player_->PlaceVideo({VideoHost::kMainWindow, 0, 0, 50, 40}));
+  }
 }
 
 TEST_F(MpvPlayerTest, KaraokeMakesDoWithOneOfItsFiles) {

@@ -50,7 +50,7 @@ inline std::string Sidecar(const std::string& artist, const std::string& title,
   return "<tag>\r\n<artist>" + artist + "</artist>\r\n<title>" + title + "</title>\r\n<album>" +
          album +
          "</album>\r\n<comp></comp>\r\n<track></track>\r\n<year>1999</year>\r\n<genre></genre>\r\n"
-         "<encodedbyxx></encodedbyxx>\r\n<commentsxxx></commentsxxx>\r\n<x/>\r\n<duration>" +
+         "<encodedbyxxx></encodedbyxxx>\r\n<commentsxxx></commentsxxx>\r\n<x/>\r\n<duration>" +
          time + "</duration>\r\n</tag>\r\n";
 }
 

@@ -57,6 +57,8 @@ class TestPlayer : public Player {
     if (running_) position_ = std::min(length_, position_ + seconds);
   }
 
+  void Shorten(double length) { length_ = length; }
+
   bool RenderFile(const std::string& path) override {
     calls.push_back("RenderFile " + path);
     file = path;

@@ -69,7 +69,7 @@ TEST(Album, TakesItsArtistFromAllOfItsTracks) {
       {{"Ada", "Bob", "Ada"}, "Ada - Dawn", "Various Artists"},
       {{"", ""}, "x", "Unknown Artist"},
       {{"", ""}, "Ada - Dawn", "Ada"},
-      {{"", "Ada"}, "x", "Ada"},  // a track without a name makes no compilation
+      {{"Ada", ""}, "x", "Ada"},  // a track without a name makes no compilation
       {{"", "Bob"}, "Ada - Dawn", "Various Artists"},
   };
   for (const auto& [artists, folder, common] : cases) {

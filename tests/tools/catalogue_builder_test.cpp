@@ -10,6 +10,7 @@
 #include "files/runtime_failure.h"
 #include "jukebox_folder.h"
 #include "text/text.h"
+#include "tools/config/album_builder.h"
 #include "tools/config/sidecar.h"
 
 namespace sonotik {
@@ -41,7 +42,8 @@ class CatalogueBuilder : public JukeboxFolder {
     std::map<std::string, std::string> files;
     for (const auto& entry : std::filesystem::recursive_directory_iterator(root_ / folder)) {
       if (entry.is_directory()) continue;
-      files[entry.path().lexically_relative(root_).string()] = BytesOf(entry.path());
+      const std::string name = entry.path().lexically_relative(root_).string();
+      files[name] = BytesIn(name);
     }
     return files;
   }
@@ -50,12 +52,12 @@ class CatalogueBuilder : public JukeboxFolder {
 TEST_F(CatalogueBuilder, ReadsEachKindOfFileAndGivesASidecarToThoseWithoutATagOfTheirOwn) {
   const std::string folder = "m/Eve - Dusk/";
   PutMedia(folder + "a.mp3", {"artist=\u00C4da", "title=One", "album=Dawn", "genre=Pop"});
-  const auto v1 = PutMedia(folder + "b.mp3", {}, "-id3v2_version 0 -map_metadata -1");
+  PutMedia(folder + "b.mp3", {}, "-id3v2_version 0 -map_metadata -1");
   std::string tag("TAGCaf\xE9");  // ID3v1: title, artist at 33
   tag.resize(33);
   tag += "Bob";
   tag.resize(128);
-  Put(folder + "b.mp3", BytesOf(v1) + tag);
+  Put(folder + "b.mp3", BytesIn(folder + "b.mp3") + tag);
   PutMedia(folder + "c.wav", {"artist=Cy", "title=Three", "date=1999", "track=3"});
   PutMedia(folder + "d.m4a", {"artist=Dee", "title=Four", "genre=Pop"});
   PutMedia(folder + "e.wma", {"artist=Ed", "title=Five"});
@@ -84,7 +86,8 @@ TEST_F(CatalogueBuilder, ReadsEachKindOfFileAndGivesASidecarToThoseWithoutATagOf
 }
 
 TEST_F(CatalogueBuilder, TakesTheNamesOfAFilmFromASidecarThatIsThereAndLeavesIt) {
-  const std::string film = BytesOf(PutMedia("v/x/clip.mpg"));
+  PutMedia("v/x/clip.mpg");
+  const std::string film = BytesIn("v/x/clip.mpg");
   std::filesystem::create_symlink("clip.mpg", root_ / "v/x/clip.mpg.tag.part");
   Build(kVideo, {"v"});
   EXPECT_EQ(BytesIn("v/x/clip.mpg"), film);  // nothing was written through the link
@@ -218,6 +221,8 @@ TEST_F(CatalogueBuilder, TouchesNoKindWithoutAFolderAndMakesNoEmptyCatalogue) {
   std::filesystem::remove_all(root_ / "v/Ada - Dawn");
   EXPECT_TRUE(Build(kVideo, {"v"}).AnyWritten());
   EXPECT_EQ(BytesIn("app/videos.rec"), "");
+  Build(kAudio, {"k"});
+  EXPECT_THAT(Albums("new.cvr"), SizeIs(1));  // an album of two kinds is new once
 }
 
 TEST_F(CatalogueBuilder, RemovesOnlyGenreFilesThatItHasWritten) {
@@ -236,7 +241,7 @@ TEST_F(CatalogueBuilder, RemovesOnlyGenreFilesThatItHasWritten) {
   PutFilm("m/a/1.mpg", "pop");
   std::filesystem::remove_all(root_ / "m/b");
   Put("app/genres/genres.lst",
-      BytesIn("app/genres/genres.lst") + "..\\..\\precious.cvr\r\nall genres.cvr\r\n");
+      BytesIn("app/genres/genres.lst") + "\\..\\..\\precious.cvr\r\nall genres.cvr\r\n");
   Build(kAudio, {"m"});
   EXPECT_THAT(
       FilesIn("app/genres"),
@@ -269,15 +274,27 @@ TEST_F(CatalogueBuilder, NotesAReadOnlyFolderAndAMissingProbeAndGoesOn) {
   EXPECT_EQ(report.problems[1].path, "ffprobe");
 }
 
-TEST(CoversIndex, HoldsNoMoreAlbumsThanThePagesCanCount) {
-  const std::filesystem::path file =
-      std::filesystem::temp_directory_path() / ("sonotik-" + std::to_string(::getpid()) + ".cvr");
+TEST(FormerCatalogue, HandsOnWhatLiesBelowAFolderAndIsNotThereAlready) {
+  Catalogue former;
+  for (const char* path : {"\\a\\1.wav", "\\a\\2.wav.tag", "\\a b\\3.wav", "\\b\\a\\4.wav"}) {
+    TrackInfo info;
+    info.path = path;
+    former.tracks.push_back(MakeRecord(info, 0, ""));
+  }
+  Catalogue present{{former.tracks[0]}, {}};
+  const Catalogue kept = FormerCatalogue(former).Below({"\\a"}, present);
+  ASSERT_THAT(kept.tracks, SizeIs(1));
+  EXPECT_EQ(kept.tracks[0].bytes, former.tracks[1].bytes);
+  EXPECT_TRUE(FormerCatalogue(former).HasTrack("\\a\\2.wav"));  // recorded by its sidecar
+}
+
+TEST_F(CatalogueBuilder, PutsNoMoreAlbumsIntoAnIndexThanThePagesCanCount) {
   StagedFiles staged;
   std::vector<AlbumRecord> albums(32767);
-  EXPECT_TRUE(StageAlbums(ProgramPath(file), albums, staged));
+  EXPECT_TRUE(StageAlbums(App() + "\\x.cvr", albums, staged));
   albums.emplace_back();
-  EXPECT_FALSE(StageAlbums(ProgramPath(file), albums, staged));
-  EXPECT_EQ(std::filesystem::file_size(file.string() + ".part"), 32767u * 385u);
+  EXPECT_FALSE(StageAlbums(App() + "\\y.cvr", albums, staged));
+  EXPECT_EQ(std::filesystem::file_size(root_ / "app/y.cvr.part"), 32767u * 385u);
 }
 
 }  // namespace

@@ -4,45 +4,31 @@
 #define SONOTIK_TESTS_TOOLS_JUKEBOX_FOLDER_H_
 
 #include <gtest/gtest.h>
-#include <stdlib.h>
 
+#include <cstdlib>
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "files/paths.h"
+#include "support/temp_folder.h"
 #include "tools/config/catalogue_builder.h"
 #include "tools/config/catalogue_files.h"
 
 namespace sonotik {
 
-inline std::string BytesOf(const std::filesystem::path& file) {
-  std::ifstream stream(file, std::ios::binary);
-  return {std::istreambuf_iterator<char>(stream), {}};
-}
-
 class JukeboxFolder : public testing::Test {
  protected:
-  JukeboxFolder() {
-    std::string name = (std::filesystem::temp_directory_path() / "sonotik-XXXXXX").string();
-    root_ = ::mkdtemp(name.data());
-    std::filesystem::create_directories(root_ / "app");
-  }
-  ~JukeboxFolder() override { std::filesystem::remove_all(root_); }
+  JukeboxFolder() { std::filesystem::create_directories(root_ / "app"); }
 
-  std::filesystem::path Put(const std::string& name, std::string_view bytes) {
-    const std::filesystem::path file = root_ / name;
-    std::filesystem::create_directories(file.parent_path());
-    std::ofstream(file, std::ios::binary) << bytes;
-    return file;
-  }
+  void Put(const std::string& name, std::string_view bytes) { temp_.Write(name, bytes); }
+  std::string BytesIn(const std::string& name) const { return temp_.Read(name); }
+  bool Exists(const std::string& name) const { return temp_.Has(name); }
 
   // A second of sound (and of pictures, in a film) with these tags: "artist=Ada", ...
-  std::filesystem::path PutMedia(const std::string& name, const std::vector<std::string>& tags = {},
-                                 const std::string& options = "-id3v2_version 3") {
+  void PutMedia(const std::string& name, const std::vector<std::string>& tags = {},
+                const std::string& options = "-id3v2_version 3") {
     const std::filesystem::path file = root_ / name;
     std::filesystem::create_directories(file.parent_path());
     const bool film = KindOf(name) == "MPG" || KindOf(name) == "AVI";
@@ -51,7 +37,6 @@ class JukeboxFolder : public testing::Test {
     for (const std::string& tag : tags) command += "-metadata '" + tag + "' ";
     command += options + " '" + file.string() + "'";
     EXPECT_EQ(std::system(command.c_str()), 0) << command;
-    return file;
   }
 
   BuildRequest Request(CatalogueKind kind, const std::vector<std::string>& folders) const {
@@ -66,8 +51,6 @@ class JukeboxFolder : public testing::Test {
   }
 
   std::string App() const { return ProgramPath(root_ / "app"); }
-  std::string BytesIn(const std::string& name) const { return BytesOf(root_ / name); }
-  bool Exists(const std::string& name) const { return std::filesystem::exists(root_ / name); }
 
   // "artist / title / album" of each track, in the file's order.
   std::vector<std::string> Tracks(CatalogueKind kind = CatalogueKind::kAudio) const {
@@ -93,7 +76,8 @@ class JukeboxFolder : public testing::Test {
     return texts;
   }
 
-  std::filesystem::path root_;
+  TempFolder temp_;
+  const std::filesystem::path root_ = temp_.native();
   Date today_{2024, 3, 1};
 };
 

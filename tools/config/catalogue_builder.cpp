@@ -69,8 +69,8 @@ class Builder {
     for (const auto& [kind, folders] : request_.folders) Look(kind, folders);
     progress_.phase = BuildProgress::Phase::kReading;
     progress_.done = 0;
-    for (Part& part : parts_) progress_.total += part.files;
-    for (Part& part : parts_) Read(part);
+    for (KindWork& work : work_) progress_.total += work.files;
+    for (KindWork& work : work_) Read(work);
     progress_.phase = BuildProgress::Phase::kWriting;
     Write();
   }
@@ -82,7 +82,7 @@ class Builder {
   }
 
  private:
-  struct Part {
+  struct KindWork {
     CatalogueKind kind{};
     MediaScan scan;
     long files = 0;
@@ -96,53 +96,53 @@ class Builder {
   }
 
   void Look(CatalogueKind kind, const std::vector<fs::path>& folders) {
-    std::vector<fs::path> plain;
-    for (const fs::path& folder : folders) plain.push_back(PlainPath(folder));
+    std::vector<fs::path> plain(folders.size());
+    std::transform(folders.begin(), folders.end(), plain.begin(), PlainPath);
     const long before = progress_.done;
     progress_.kind = kind;
-    Part part;
-    part.kind = part.report.kind = kind;
-    part.scan = ScanMedia(plain, kind, [&](long files) {
+    KindWork work;
+    work.kind = work.report.kind = kind;
+    work.scan = ScanMedia(plain, kind, [&](long files) {
       progress_.done = before + files;
       Tell();
     });
-    for (const MediaFolder& folder : part.scan.folders) {
-      part.files += static_cast<long>(folder.files.size());
+    for (const MediaFolder& folder : work.scan.folders) {
+      work.files += static_cast<long>(folder.files.size());
     }
-    progress_.done = before + part.files;
-    Append(report_.problems, part.scan.problems);
-    parts_.push_back(std::move(part));
+    progress_.done = before + work.files;
+    Append(report_.problems, work.scan.problems);
+    work_.push_back(std::move(work));
   }
 
-  void Read(Part& part) {
-    progress_.kind = part.kind;
-    const FormerCatalogue former(ReadCatalogue(app_, part.kind));
-    for (const MediaFolder& folder : part.scan.folders) {
+  void Read(KindWork& work) {
+    progress_.kind = work.kind;
+    const FormerCatalogue former(ReadCatalogue(app_, work.kind));
+    for (const MediaFolder& folder : work.scan.folders) {
       const Album album = reader_.Read(folder, [this] {
         Tell();
         ++progress_.done;
       });
-      if (!album.tracks.empty()) Enter(album, former, part);
+      if (!album.tracks.empty()) Enter(album, former, work);
     }
     std::vector<std::string> unreachable;
-    for (const fs::path& folder : part.scan.unreachable) {
+    for (const fs::path& folder : work.scan.unreachable) {
       unreachable.push_back(ProgramPath(folder));
     }
-    const Catalogue kept = former.Below(unreachable, part.catalogue);
-    part.report.kept_tracks = kept.tracks.size();
-    Append(part.catalogue.tracks, kept.tracks);
-    Append(part.catalogue.albums, kept.albums);
-    if (part.kind == CatalogueKind::kAudio) kept_audio_ = kept.albums;
+    const Catalogue kept = former.Below(unreachable, work.catalogue);
+    work.report.kept_tracks = kept.tracks.size();
+    Append(work.catalogue.tracks, kept.tracks);
+    Append(work.catalogue.albums, kept.albums);
+    if (work.kind == CatalogueKind::kAudio) kept_audio_ = kept.albums;
   }
 
-  void Enter(const Album& album, const FormerCatalogue& former, Part& part) {
+  void Enter(const Album& album, const FormerCatalogue& former, KindWork& work) {
     const AlbumRecord record = MakeRecord(album, former.AlbumDate(album.path, today_));
-    part.report.new_albums += former.HasAlbum(album.path) ? 0 : 1;
-    part.catalogue.albums.push_back(record);
-    if (part.kind == CatalogueKind::kAudio) genres_.Add(album.genre, record);
+    work.report.new_albums += former.HasAlbum(album.path) ? 0 : 1;
+    work.catalogue.albums.push_back(record);
+    if (work.kind == CatalogueKind::kAudio) genres_.Add(album.genre, record);
     for (const TrackInfo& track : album.tracks) {
-      part.report.new_tracks += former.HasTrack(track.path) ? 0 : 1;
-      part.catalogue.tracks.push_back(
+      work.report.new_tracks += former.HasTrack(track.path) ? 0 : 1;
+      work.catalogue.tracks.push_back(
           MakeRecord(track, former.Rating(track.path), former.TrackDate(track.path, today_)));
     }
   }
@@ -156,23 +156,23 @@ class Builder {
       if (request_.folders.contains(kind)) continue;
       Append(all_albums, ReadAlbums(AlbumPath(app_, kind)));
     }
-    for (Part& part : parts_) {
-      part.report.albums = part.catalogue.albums.size();
-      part.report.tracks = part.catalogue.tracks.size();
+    for (KindWork& work : work_) {
+      work.report.albums = work.catalogue.albums.size();
+      work.report.tracks = work.catalogue.tracks.size();
       // With no catalogue at all the jukebox asks for one, which an empty one would hide.
-      if (part.catalogue.tracks.empty() && !CatalogueExists(app_, part.kind)) continue;
+      if (work.catalogue.tracks.empty() && !CatalogueExists(app_, work.kind)) continue;
       Tell();
-      if (!StageCatalogue(app_, part.kind, part.catalogue, staged)) {
-        TooMany(AlbumPath(app_, part.kind));
+      if (!StageCatalogue(app_, work.kind, work.catalogue, staged)) {
+        TooMany(AlbumPath(app_, work.kind));
       }
-      part.report.written = true;
-      Append(all_albums, part.catalogue.albums);
-      if (part.kind != CatalogueKind::kAudio) continue;
+      work.report.written = true;
+      Append(all_albums, work.catalogue.albums);
+      if (work.kind != CatalogueKind::kAudio) continue;
       genre_files.CarryOver(kept_audio_, genres_);
       report_.genres = genre_files.Stage(genres_.Sorted(), staged, report_.problems);
       genres_written = true;
     }
-    for (const Part& part : parts_) report_.kinds.push_back(part.report);
+    for (const KindWork& work : work_) report_.kinds.push_back(work.report);
     if (!report_.AnyWritten()) return;
     if (!StageNewAlbums(app_, all_albums, request_.today, staged)) TooMany(app_ + "\\new.cvr");
     Tell();
@@ -183,10 +183,7 @@ class Builder {
   }
 
   void TooMany(const std::string& path) {
-    report_.problems.push_back({NativePath(path).string(),
-                                "more albums than the pages can hold; "
-                                "the first " +
-                                    std::to_string(kMostAlbums) + " are kept"});
+    report_.problems.push_back({NativePath(path).string(), TooManyAlbums()});
   }
 
   const BuildRequest& request_;
@@ -195,7 +192,7 @@ class Builder {
   const std::string today_;
   AlbumReader reader_;
   BuildProgress progress_;
-  std::vector<Part> parts_;
+  std::vector<KindWork> work_;
   GenreIndex genres_;
   std::vector<AlbumRecord> kept_audio_;
   BuildReport report_;

@@ -96,6 +96,11 @@ std::vector<Record> RecordsBelow(const std::vector<std::string>& folders,
 
 std::string_view KindName(CatalogueKind kind) { return FilesOf(kind).name; }
 
+std::string TooManyAlbums() {
+  return "more albums than the pages can hold; the first " + std::to_string(kMostAlbums) +
+         " are kept";
+}
+
 std::string AlbumPath(const std::string& folder, CatalogueKind kind) {
   return folder + std::string(FilesOf(kind).files) + ".cvr";
 }

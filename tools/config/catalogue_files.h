@@ -23,6 +23,8 @@ std::string_view KindName(CatalogueKind kind);
 
 // A page's position is a signed 16-bit number, so no covers index may hold more.
 inline constexpr size_t kMostAlbums = 32767;
+// What the operator reads of an index that would.
+std::string TooManyAlbums();
 
 struct Catalogue {
   std::vector<TrackRecord> tracks;

@@ -71,7 +71,7 @@ int GenreFiles::Stage(const std::vector<GenreAlbums>& genres, StagedFiles& stage
       continue;
     }
     if (!StageAlbums(folder_ + name, genre.albums, staged)) {
-      problems.push_back({name, "too many albums; the first 32767 are kept"});
+      problems.push_back({name, TooManyAlbums()});
     }
     written_.push_back(name);
   }

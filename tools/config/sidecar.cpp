@@ -38,9 +38,9 @@ std::string SidecarText(const TrackInfo& info) {
   LineWriter lines;
   lines.Text("<tag>");
   for (const Line& line : kLines) {
-    const std::string value = line.value == nullptr ? "" : CleanText(info.*line.value);
-    const std::string name(line.element);
-    lines.Text("<" + name + ">" + value + "</" + name + ">");
+    std::string text = "<" + std::string(line.element) + ">";
+    if (line.value != nullptr) text += CleanText(info.*line.value);
+    lines.Text(text + "</" + std::string(line.element) + ">");
   }
   lines.Text("</tag>");
   return lines.text();

@@ -96,7 +96,7 @@ const std::vector<Album>& Albums() {
         {{26, 392, 448, 48}, 4, kCentre}, {{26, 456, 448, 27}, 3, kCentre}},
        {{"Mirrorball Weather", 4, 0}, {"Platform Shoes", 4, 2},
         {"Rings Around the Dancefloor", 4, -3}}},
-      {Format::kMp3, "Various Artists", "Jukebox Sunday", 2005, "Pop", "Various", &kSwing,
+      {Format::kMp3, "Various Artists", "Jukebox Sunday", 2005, "Pop", "", &kSwing,
        {PaintRecord, Inks(0x25103a, 0xf72585, 0xff9e00, 0xffd60a, 0x3ddad7), Face::kSans,
         {{26, 386, 448, 50}, 3, kCentre}, {{26, 452, 448, 29}, 4, kCentre}},
        {{"Tango for One Shoe", 4, 0, &kTango, "Ottilie Bramble"},

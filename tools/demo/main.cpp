@@ -28,8 +28,9 @@ constexpr char kStamp[] = "sonotik demo media 1\n";
 
 uint64_t SeedOf(const QString& text) {
   uint64_t hash = 14695981039346656037ULL;  // FNV-1a
-  for (const char byte : text.toUtf8())
+  for (const char byte : text.toUtf8()) {
     hash = (hash ^ static_cast<uint8_t>(byte)) * 1099511628211ULL;
+  }
   return hash;
 }
 
@@ -47,8 +48,9 @@ void MakeFolder(const QString& path) {
 
 QByteArray CoverJpeg(const Album& album, int size) {
   QImage image = PaintCover(album.cover, album.artist, album.title, SeedOf(album.title));
-  if (size != kCoverSize)
+  if (size != kCoverSize) {
     image = image.scaled(size, size, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+  }
   QBuffer buffer;
   buffer.open(QIODevice::WriteOnly);
   if (!image.save(&buffer, "JPEG", 82)) throw DemoFailure("Qt cannot write JPEG pictures here");
@@ -59,10 +61,9 @@ void MakeTrack(const Album& album, int number, const QString& folder) {
   const Track& track = album.tracks[number];
   const QString title = track.title;
   const Style& style = track.style != nullptr ? *track.style : *album.style;
-  const SongTags tags{title,          track.artist != nullptr ? track.artist : album.artist,
-                      album.title,    album.genre,
-                      album.composer, album.year,
-                      number + 1};
+  const char* artist = track.artist != nullptr ? track.artist : album.artist;
+  const char* composer = track.artist != nullptr ? track.artist : album.composer;
+  const SongTags tags{title, artist, album.title, album.genre, composer, album.year, number + 1};
   const QString name =
       QString("%1/%2 - %3").arg(folder).arg(number + 1, 2, 10, QChar('0')).arg(title);
   const uint64_t seed = SeedOf(QString(album.title) + title);
@@ -110,8 +111,9 @@ void DoAll(const std::vector<std::function<void()>>& jobs) {
     }
   };
   std::vector<std::thread> workers;
-  for (unsigned i = 0; i < std::max(1U, std::thread::hardware_concurrency()); ++i)
+  for (unsigned i = 0; i < std::max(1U, std::thread::hardware_concurrency()); ++i) {
     workers.emplace_back(work);
+  }
   for (std::thread& worker : workers) worker.join();
   if (failure) std::rethrow_exception(failure);
 }
@@ -136,8 +138,9 @@ void MakeMedia(const QString& root, const QString& part) {
     const QString folder = part + "/" + FolderOf(albums[i]);
     MakeFolder(folder);
     WriteFile(folder + "/Cover.jpg", CoverJpeg(albums[i], kCoverSize));
-    for (size_t track = 0; track < albums[i].tracks.size(); ++track)
+    for (size_t track = 0; track < albums[i].tracks.size(); ++track) {
       add(i, static_cast<int>(track));
+    }
   }
   // The long jobs stand last in the list and would leave a processor idle at the end.
   std::reverse(jobs.begin(), jobs.end());
@@ -154,6 +157,7 @@ void MakeMedia(const QString& root, const QString& part) {
 int Run(const QString& root) {
   MakeFolder(root);
   QLockFile lock(root + "/.media.lock");
+  lock.setStaleLockTime(0);  // a run may take its time; only a dead one gives its lock away
   if (!lock.lock()) throw DemoFailure("cannot write in " + root);
   const QString stamp = root + "/media.stamp", part = root + "/.media.part";
   if (QFile::exists(stamp) && ReadFile(stamp) == kStamp) {

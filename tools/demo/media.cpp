@@ -112,9 +112,10 @@ void EncodeMp3(const Recording& recording, const SongTags& tags, const Mp3Kind& 
   } else {
     options << "-b:a" << QString::number(kind.kbits) + "k";
   }
-  if (!kind.info_frame)
+  if (!kind.info_frame) {
     options << "-write_xing"
             << "0";
+  }
   Encode(recording, options + QStringList{"-f", "mp3"}, output);
   WriteId3(tags, kind, cover, output);
 }

@@ -80,7 +80,7 @@ void PaintRain(QPainter& painter, const Palette& colours, Random& random) {
   }
   painter.setBrush(Qt::NoBrush);
   for (int ripple = 0; ripple < 3; ++ripple) {
-    const QPointF centre[] = {{150, 415}, {372, 438}, {292, 386}};
+    const QPointF centre[] = {{150, 402}, {372, 416}, {292, 372}};
     for (int ring = 1; ring <= 4 - ripple % 2; ++ring) {
       painter.setPen(QPen(ring == 1 ? colours[3] : colours[2], 3.2 - ring * 0.5));
       painter.drawEllipse(centre[ripple], ring * 29.0, ring * 8.0);
@@ -152,8 +152,9 @@ void PaintLanterns(QPainter& painter, const Palette& colours, Random& random) {
     painter.drawEllipse(QPointF(x, y), size, size * 0.8);
     painter.setBrush(Qt::NoBrush);
     painter.setPen(QPen(colours[3].darker(115), 1.6));
-    for (double rib = 0.3; rib < 1; rib += 0.32)
+    for (double rib = 0.3; rib < 1; rib += 0.32) {
       painter.drawEllipse(QPointF(x, y), size * rib, size * 0.8);
+    }
     painter.setPen(Qt::NoPen);
     Fill(painter, colours[0], x - size * 0.3, y - size * 0.84, size * 0.6, size * 0.12);
     Fill(painter, colours[0], x - size * 0.3, y + size * 0.72, size * 0.6, size * 0.12);
@@ -191,8 +192,9 @@ void PaintKites(QPainter& painter, const Palette& colours, Random& random) {
 
 void PaintMotorway(QPainter& painter, const Palette& colours, Random& random) {
   Sky(painter, colours[0], colours[1], 310);
-  for (int i = 0; i < 60; ++i)
+  for (int i = 0; i < 60; ++i) {
     Disc(painter, colours[4], random.Below(500), random.Below(200), 0.5 + random.Unit());
+  }
   StripedSun(painter, colours[4], colours[2], {250, 226}, 116);
   QPolygonF peaks{{0, 311}};
   for (int x = 0; x <= 500; x += 50) {
@@ -206,8 +208,9 @@ void PaintMotorway(QPainter& painter, const Palette& colours, Random& random) {
   QColor line = colours[3];
   line.setAlpha(130);
   painter.setPen(QPen(line, 1.8));
-  for (int i = -14; i <= 14; ++i)
+  for (int i = -14; i <= 14; ++i) {
     painter.drawLine(QPointF(250 + i * 16, 310), QPointF(250 + i * 90, 500));
+  }
   for (int i = 0; i < 12; ++i) {
     const double y = 310 + 190 * std::pow(i / 11.0, 2.1);
     painter.drawLine(QPointF(0, y), QPointF(500, y));

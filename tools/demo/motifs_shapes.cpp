@@ -53,8 +53,8 @@ void PaintLeaves(QPainter& painter, const Palette& colours, Random& random) {
       QPainterPath leaf(QPointF(-62.5, -62.5));
       leaf.arcTo(QRectF(-187.5, -62.5, 250, 250), 90, -90);
       leaf.arcTo(QRectF(-62.5, -187.5, 250, 250), 270, -90);
-      painter.fillPath(leaf,
-                       colours[ground % 4 == 0 ? 0 : (ground + 1) % 4 + (ground == 3 ? 2 : 0)]);
+      const int leaf_on[] = {0, 2, 3, 2, 0};
+      painter.fillPath(leaf, colours[leaf_on[ground]]);
       painter.setPen(QPen(colours[ground], 4));
       painter.drawLine(QPointF(-62, -62), QPointF(44, 44));
       for (int i = -1; i < 3; ++i) {
@@ -67,8 +67,9 @@ void PaintLeaves(QPainter& painter, const Palette& colours, Random& random) {
 }
 
 void PaintRobot(QPainter& painter, const Palette& colours, Random& random) {
-  for (int i = 0; i < 46; ++i)
+  for (int i = 0; i < 46; ++i) {
     Disc(painter, colours[4], random.Below(500), random.Below(420), 1 + random.Unit() * 2);
+  }
   Disc(painter, colours[4], 424, 196, 44);
   Disc(painter, colours[0], 404, 184, 40);
   painter.setBrush(colours[2]);

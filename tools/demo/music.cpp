@@ -23,10 +23,10 @@ struct Chord {
 
 Chord ParseChord(const std::string& name, int key) {
   static const std::map<std::string, std::vector<int>> kQualities = {
-      {"", {0, 4, 7}},          {"m", {0, 3, 7}},    {"7", {0, 4, 7, 10}},  {"m7", {0, 3, 7, 10}},
-      {"maj7", {0, 4, 7, 11}},  {"6", {0, 4, 7, 9}}, {"m6", {0, 3, 7, 9}},  {"dim", {0, 3, 6, 9}},
-      {"m7b5", {0, 3, 6, 10}},  {"sus4", {0, 5, 7}}, {"9", {0, 4, 10, 14}}, {"m9", {0, 3, 10, 14}},
-      {"maj9", {0, 4, 11, 14}}, {"5", {0, 7}},
+      {"", {0, 4, 7}},        {"m", {0, 3, 7}},         {"7", {0, 4, 7, 10}},
+      {"m7", {0, 3, 7, 10}},  {"maj7", {0, 4, 7, 11}},  {"6", {0, 4, 7, 9}},
+      {"m6", {0, 3, 7, 9}},   {"m7b5", {0, 3, 6, 10}},  {"9", {0, 4, 10, 14}},
+      {"m9", {0, 3, 10, 14}}, {"maj9", {0, 4, 11, 14}},
   };
   static const int kLetters[] = {9, 11, 0, 2, 4, 5, 7};
   Chord chord{kLetters[name[0] - 'A'] + key, {}};
@@ -123,6 +123,26 @@ class Composer {
     return pitches;
   }
 
+  int BassPitch(char sign, int bar, int step, int centre) const {
+    const Chord& chord = ChordAt(bar, step);
+    const int root = Fold(chord.root, centre), fifth = chord.tones[2] == 6 ? 6 : 7;
+    switch (sign) {
+      case '3':
+        return root + chord.tones[1];
+      case '5':
+        return root + fifth - (root > centre ? 12 : 0);
+      case '8':
+        return root + 12;
+      case 'a': {
+        const bool second_half = step * 2 >= steps_;
+        const int next = Fold(halves_[bar * 2 + (second_half ? 2 : 1)].root, root);
+        return next + (next > root ? -1 : 1);
+      }
+      default:
+        return root;
+    }
+  }
+
   void AddComp(int index, int bar) {
     const Comp& comp = style_.comps[index];
     for (int step = 0; step < steps_; ++step) {
@@ -133,18 +153,7 @@ class Composer {
       const Chord& chord = ChordAt(bar, step);
       const double velocity = (step % 8 == 0 ? 0.85 : 0.72) + (sign == 'X' ? 0.15 : 0);
       if (comp.bass) {
-        const int root = Fold(chord.root, comp.voice.centre);
-        const int third = chord.tones[1] == 7 ? 7 : chord.tones[1];
-        const int next = Fold(
-            ChordAt(bar + (step * 2 >= steps_ ? 1 : 0), step * 2 >= steps_ ? 0 : steps_ / 2).root,
-            root);
-        const int fifth = chord.tones[2 % chord.tones.size()] == 6 ? 6 : 7;
-        const int pitch = sign == 'a'   ? next + (next > root ? -1 : 1)
-                          : sign == '3' ? root + third
-                          : sign == '5'
-                              ? (root > comp.voice.centre ? root + fifth - 12 : root + fifth)
-                          : sign == '8' ? root + 12
-                                        : root;
+        const int pitch = BassPitch(sign, bar, step, comp.voice.centre);
         Add(Note::Kind::kComp, bar, step, length, pitch, velocity, index);
         continue;
       }

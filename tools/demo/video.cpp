@@ -83,8 +83,9 @@ void DrawMotorway(QPainter& painter, const Palette& inks, const Moment& now) {
       painter.fillRect(QRectF(x, kHorizon - height, 26, height), inks[0].darker(230));
       for (double y = kHorizon - 9; y > kHorizon - height + 5; y -= 10) {
         for (const double window : {5.0, 15.0}) {
-          if (windows.Below(3) != 0)
+          if (windows.Below(3) != 0) {
             painter.fillRect(QRectF(x + window, y, 5, 4), Faint(inks[i % 2 == 0 ? 4 : 3], 0.8));
+          }
         }
       }
     }
@@ -170,8 +171,9 @@ Moment MomentAt(const Score& score, double beat, int beats_in_bar) {
   now.pulse = std::exp(-(beat > end ? beat - end : steady - std::floor(steady)) * 4);
   now.bar = std::exp(-std::fmod(steady, beats_in_bar) * 1.2);
   for (const Note& note : score.notes) {
-    if (note.kind == Note::Kind::kLead && note.beat <= beat && beat < note.beat + 2)
+    if (note.kind == Note::Kind::kLead && note.beat <= beat && beat < note.beat + 2) {
       now.sounding.push_back(note);
+    }
   }
   return now;
 }

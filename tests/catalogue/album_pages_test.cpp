@@ -1,0 +1,278 @@
+#include <gtest/gtest.h>
+
+#include "support/jukebox_test.h"
+
+namespace sonotik {
+namespace {
+
+class AlbumPagesTest : public JukeboxTest {
+ protected:
+  AlbumPagesTest() { settings.show_new_on_recent_albums = false; }
+
+  // `count` albums by artists "A 1", "B 2" ... in steps through the alphabet.
+  void WriteCount(int count, const std::string& file = "Records.cvr") {
+    std::vector<TestAlbum> albums;
+    for (int i = 1; i <= count; ++i) {
+      albums.push_back({"Album " + std::to_string(i),
+                        std::string(1, static_cast<char>('A' + (i - 1) * 26 / count)) + " " +
+                            std::to_string(i)});
+    }
+    WriteAlbums(albums, file);
+  }
+  std::string PageCaption() { return form().album.page_caption.caption(); }
+  std::string FirstAlbum() { return house().pages.slots()[1].album; }
+  CoverPosition& Cover(size_t position) { return form().album.covers[position]; }
+};
+
+TEST_F(AlbumPagesTest, ThePageCaptionCountsFromZeroAndEndsOneShort) {
+  const struct {
+    int albums;
+    const char* caption;
+  } cases[] = {{0, "Current Page : 0/-1"}, {1, "Current Page : 0/-1"}, {2, "Current Page : 0/ 0"},
+               {12, "Current Page : 0/ 0"}, {13, "Current Page : 0/ 0"}, {14, "Current Page : 0/ 1"},
+               {25, "Current Page : 0/ 1"}, {26, "Current Page : 0/ 2"}};
+  for (const auto& c : cases) {
+    WriteCount(c.albums);
+    Start();
+    EXPECT_EQ(PageCaption(), c.caption) << c.albums;
+    jukebox.reset();
+  }
+}
+
+TEST_F(AlbumPagesTest, PagingStopsAtBothEndsWithoutLosingItsPlace) {
+  WriteCount(24);
+  Start();
+  house().cursor.SetPosition(1);
+  Click(form().album.previous);
+  EXPECT_EQ(house().cursor.position(), 1);
+  Click(form().album.next);
+  EXPECT_EQ(house().cursor.position(), 13);
+  EXPECT_EQ(FirstAlbum(), "Album 13");
+  Click(form().album.next);
+  EXPECT_EQ(house().cursor.position(), 13);
+  EXPECT_EQ(FirstAlbum(), "Album 13");
+}
+
+TEST_F(AlbumPagesTest, FromTheStartTheNextPageShowsOneAlbumTwice) {
+  WriteCount(30);
+  Start();
+  Click(form().album.letter_buttons[26]);
+  EXPECT_EQ(house().cursor.position(), 0);
+  EXPECT_EQ(FirstAlbum(), "Album 1");
+  Click(form().album.next);
+  EXPECT_EQ(FirstAlbum(), "Album 12");
+}
+
+TEST_F(AlbumPagesTest, ALastPageHidesWhatItHasNoAlbumFor) {
+  WriteCount(14);
+  Start();
+  house().cursor.SetPosition(1);
+  Click(form().album.next);
+  EXPECT_TRUE(Cover(1).cover.visible());
+  EXPECT_FALSE(Cover(2).cover.visible());
+  EXPECT_FALSE(Cover(2).album.visible());
+  EXPECT_EQ(house().pages.FolderAt(2), "");
+  EXPECT_EQ(house().pages.FolderAt(1), AlbumPath("Album 14"));
+}
+
+TEST_F(AlbumPagesTest, LettersJumpByTheirOwnArithmeticAndNeverReadTheLastRecord) {
+  WriteCount(52);
+  Start();
+  Click(form().album.letter_buttons[12]);  // "M" begins at record 25
+  EXPECT_EQ(house().cursor.position(), 25);
+  house().letter_jump.JumpTo('M', JumpControl::kStrip);
+  EXPECT_EQ(house().cursor.position(), 14);
+  house().letter_jump.JumpTo('A', JumpControl::kStripThumb);
+  EXPECT_EQ(house().cursor.position(), 2 - 12);
+  house().cursor.SetPosition(1);
+  house().letter_jump.JumpTo('!', JumpControl::kLetterButton);
+  EXPECT_EQ(house().cursor.position(), 1);
+
+  WriteAlbums({{"One", "Ada"}, {"Two", "Zoe"}});
+  house().letter_jump.JumpTo('Z', JumpControl::kLetterButton);
+  EXPECT_EQ(house().cursor.position(), 1);
+  house().letter_jump.JumpTo('A', JumpControl::kLetterButton);
+  EXPECT_EQ(FirstAlbum(), "One");
+}
+
+TEST_F(AlbumPagesTest, TheStripLooksAtFewerSourcesThanTheButtons) {
+  WriteCount(52, "new.cvr");
+  Start();
+  house().cursor.source = CatalogueSource::kNew;
+  house().letter_jump.JumpTo('M', JumpControl::kStrip);
+  house().letter_jump.JumpTo('M', JumpControl::kStripThumb);
+  EXPECT_EQ(house().cursor.position(), 0);
+  house().letter_jump.JumpTo('M', JumpControl::kLetterButton);
+  EXPECT_EQ(house().cursor.position(), 25);
+}
+
+TEST_F(AlbumPagesTest, AFingerOnTheThumbMovesItAndJumpsOnRelease) {
+  WriteCount(52);
+  Start();
+  const Rect strip = form().album.strip.AbsolutePlace();
+  const Rect thumb = form().album.strip_thumb.AbsolutePlace();
+  Form& window = form().form;
+  window.PressMouse({thumb.left + 5, thumb.top + 5});
+  window.MoveMouse({strip.left + strip.width * 13.5F / 27, strip.top + 5});
+  EXPECT_EQ(house().letter_jump.jump_letter(), 13);
+  EXPECT_EQ(house().cursor.position(), 1);
+  window.ReleaseMouse({strip.left + strip.width * 13.5F / 27, strip.top + 5});
+  EXPECT_EQ(FirstAlbum(), "Album 14");
+  // Back to the first zone: the start of the file.
+  const Rect moved = form().album.strip_thumb.AbsolutePlace();
+  window.PressMouse({moved.left + 5, moved.top + 5});
+  window.ReleaseMouse({strip.left - 400, strip.top + 5});
+  EXPECT_EQ(house().cursor.position(), 0);
+}
+
+TEST_F(AlbumPagesTest, TabsChangeSourceAndKindEachInItsOwnWay) {
+  const struct {
+    AlbumTab tab;
+    CatalogueSource before;
+    CatalogueSource after;
+    int kind;  // from 1 before
+  } cases[] = {
+      {AlbumTab::kAudio, CatalogueSource::kRecords, CatalogueSource::kRecords, 1},
+      {AlbumTab::kAudio, CatalogueSource::kVideos, CatalogueSource::kRecords, 0},
+      {AlbumTab::kVideo, CatalogueSource::kRecords, CatalogueSource::kVideos, 1},
+      {AlbumTab::kKaraoke, CatalogueSource::kRecords, CatalogueSource::kKaraoke, 2},
+      {AlbumTab::kKaraoke, CatalogueSource::kKaraoke, CatalogueSource::kKaraoke, 2},
+      {AlbumTab::kNewSongs, CatalogueSource::kRecords, CatalogueSource::kNew, 4},
+      {AlbumTab::kNewSongs, CatalogueSource::kKaraoke, CatalogueSource::kKaraoke, 4},
+      {AlbumTab::kMostPlayed, CatalogueSource::kVideos, CatalogueSource::kVideos, 1},
+  };
+  Start();
+  for (const auto& c : cases) {
+    house().cursor.source = c.before;
+    house().cursor.media_kind = 1;
+    house().pages.PressTab(c.tab);
+    EXPECT_EQ(house().cursor.source, c.after);
+    EXPECT_EQ(house().cursor.media_kind, c.kind);
+  }
+}
+
+TEST_F(AlbumPagesTest, EachSourceKeepsItsPage) {
+  WriteCount(30);
+  WriteCount(30, "videos.cvr");
+  Start();
+  Click(form().album.next);
+  const int page = house().cursor.position();
+  Click(form().album.tabs[1]);
+  EXPECT_EQ(house().cursor.position(), 0);
+  Click(form().album.tabs[0]);
+  EXPECT_EQ(house().cursor.position(), page);
+}
+
+TEST_F(AlbumPagesTest, ASpinShowsRandomAlbumsUnderTheRunningDigits) {
+  settings.show_album_digits = true;
+  WriteDefaults();
+  WriteCount(100);
+  Start();
+  house().cursor.SetPosition(13);
+  house().pages.spin_on_this();
+  EXPECT_EQ(house().cursor.position(), 13);
+  int moved = 0;
+  for (size_t slot = 1; slot <= 12; ++slot) {
+    const std::string& artist = house().pages.slots()[slot].artist;
+    const std::string digits = "(00" + std::to_string(12 + slot) + ")";
+    EXPECT_NE(artist.find(digits), std::string::npos) << artist;
+    moved += house().pages.slots()[slot].album != "Album " + std::to_string(12 + slot);
+  }
+  EXPECT_GT(moved, 6);
+}
+
+TEST_F(AlbumPagesTest, AWeekMakesAnAlbumOldAndEmptiedPlacesKeepTheirBadge) {
+  settings.show_new_on_recent_albums = true;
+  WriteDefaults();
+  WriteAlbums({{"Today", "A", "01/15/2024"}, {"Six", "B", "1/9/2024"}, {"Seven", "C", "01/08/2024"}});
+  Start();
+  EXPECT_TRUE(Cover(0).new_badge.visible());
+  EXPECT_TRUE(Cover(1).new_badge.visible());
+  EXPECT_FALSE(Cover(2).new_badge.visible());
+  WriteAlbums({{"Seven", "C", "01/08/2024"}});
+  house().pages.read_albums3();
+  EXPECT_FALSE(Cover(1).cover.visible());
+  EXPECT_TRUE(Cover(1).new_badge.visible());
+  WriteAlbums({{"Odd", "A", "someday"}});
+  EXPECT_THROW(house().pages.read_albums3(), RuntimeFailure);
+}
+
+TEST_F(AlbumPagesTest, CoversComeByTheOneRule) {
+  folder.Write("music/With/cover.JPG", "x");
+  folder.Write("music/First/b.jpg", "x");
+  folder.Write("music/First/A.jpg", "x");
+  folder.Write("music/None/notes.txt", "x");
+  Start();
+  const std::string not_found =
+      folder.path() + "\\skins\\Plain\\images\\ImageNotFound.jpg";
+  const CoverFinder& covers = house().covers;
+  EXPECT_EQ(covers.FindCoverPicture(AlbumPath("With")), AlbumPath("With") + "\\Cover.jpg");
+  EXPECT_EQ(covers.FindCoverPicture(AlbumPath("First")), not_found);
+  for (bool Settings::*option : {&Settings::use_folder_name, &Settings::display_first_image}) {
+    house().settings.*option = true;
+    EXPECT_EQ(covers.FindCoverPicture(AlbumPath("First")), AlbumPath("First") + "\\A.jpg");
+    EXPECT_EQ(covers.FindCoverPicture(AlbumPath("None")), not_found);
+    EXPECT_EQ(covers.FindCoverPicture(AlbumPath("Gone")), not_found);
+    house().settings.*option = false;
+  }
+}
+
+TEST_F(AlbumPagesTest, NamesShowDoubledAmpersandsOrNotAtAll) {
+  WriteAlbums({{"Rock & Roll", "Tom & Tim"}});
+  Start();
+  EXPECT_EQ(Cover(0).album.caption(), "Rock && Roll");
+  EXPECT_EQ(house().pages.slots()[1].artist, "Tom & Tim");
+  house().settings.show_album_artist_names = 0;
+  house().pages.read_albums3();
+  EXPECT_FALSE(Cover(0).artist.visible());
+  EXPECT_TRUE(Cover(0).cover.visible());
+}
+
+TEST_F(AlbumPagesTest, TheCarouselStandsAnArtistInEachColumn) {
+  WriteAlbums({{"1", "Ada"}, {"2", "ada"}, {"3", "Bob"}, {"4", "Cy"}, {"5", "Di"}, {"6", "Eve"},
+               {"7", "Eve"}, {"8", "Flo"}});
+  Start();
+  house().cursor.SetPosition(1);
+  house().form1.HideAllScreens();
+  house().form1.ShowScreen(screen::kCarousel);
+  house().carousel.Carousel_show();
+  const CarouselScreen& screen = form().carousel;
+  EXPECT_EQ(screen.columns[0].artist.caption(), "Ada");
+  EXPECT_EQ(house().carousel.PathAt(0, 1), AlbumPath("2"));
+  EXPECT_EQ(house().carousel.PathAt(4, 1), AlbumPath("7"));
+  EXPECT_FALSE(screen.columns[1].covers[1].visible());
+  Click(screen.columns[4].covers[0]);
+  EXPECT_TRUE(form().panel(screen::kTrackList).visible());
+  house().cursor.source = CatalogueSource::kVideos;
+  house().carousel.Step(1);
+  EXPECT_EQ(house().cursor.source, CatalogueSource::kRecords);
+  EXPECT_EQ(house().cursor.position(), 1);
+}
+
+TEST_F(AlbumPagesTest, APositionNeverWraps) {
+  Start();
+  house().cursor.SetPosition(32767);
+  EXPECT_THROW(house().cursor.SetPosition(32768), RuntimeFailure);
+  Click(form().album.next);
+  EXPECT_EQ(house().cursor.position(), 32767);
+  Click(form().album.previous);
+  EXPECT_EQ(house().cursor.position(), 32767);
+}
+
+TEST_F(AlbumPagesTest, AnyBytesInACatalogueAreJustAPage) {
+  std::mt19937 random(7);
+  for (const size_t size : {1U, 384U, 385U, 386U, 3850U, 20000U}) {
+    std::string bytes(size, ' ');
+    for (char& c : bytes) c = static_cast<char>(random());
+    folder.Write("Records.cvr", bytes);
+    folder.Write("Records.rec", bytes);
+    Start();
+    EXPECT_EQ(result, StartUpResult::kRunning);
+    Click(form().album.next);
+    house().letter_jump.JumpTo('A', JumpControl::kLetterButton);
+    jukebox.reset();
+  }
+}
+
+}  // namespace
+}  // namespace sonotik

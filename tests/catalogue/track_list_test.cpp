@@ -1,0 +1,103 @@
+#include <gtest/gtest.h>
+
+#include "support/jukebox_test.h"
+
+namespace sonotik {
+namespace {
+
+class TrackListTest : public JukeboxTest {
+ protected:
+  std::string Row(size_t row) { return form().track_list.rows[row].title.caption(); }
+  bool RowShows(size_t row) { return form().track_list.rows[row].title.visible(); }
+};
+
+TEST_F(TrackListTest, ACompilationIsKnownFromItsSecondRowOn) {
+  const struct {
+    bool numbers;
+    bool track_first;
+    const char* first;
+    const char* second;
+  } cases[] = {{false, false, "Dawn", "Bob - Dusk"},
+               {true, false, "01. Dawn", "02. Bob - Dusk"},
+               {false, true, "Dawn", "Dusk - Bob"},
+               {true, true, "01. Dawn", "02. Dusk - Bob"}};
+  WriteTrack("Mix", "1.wav", "Ada", "Dawn");
+  WriteTrack("Mix", "2.wav", "Bob", "Dusk");
+  WriteAlbums({{"Mix", "Various Artists"}});
+  Start();
+  for (const auto& c : cases) {
+    house().settings.display_track_numbers = c.numbers;
+    house().settings.show_track_first = c.track_first;
+    house().track_list.Open(AlbumPath("Mix"));
+    EXPECT_EQ(Row(0), c.first);
+    EXPECT_EQ(Row(1), c.second);
+  }
+  EXPECT_EQ(form().track_list.artist_heading.caption(), "Artist : Various Artists");
+  EXPECT_EQ(form().track_list.album_heading.caption(), "Album : Mix");
+  EXPECT_EQ(form().track_list.released_heading.caption(), "Released : 1999");
+  EXPECT_EQ(form().track_list.rows[0].time.caption(), "(0:30)");
+}
+
+TEST_F(TrackListTest, AnExactPageNeedsNoDown) {
+  for (int i = 10; i < 23; ++i) WriteTrack("Full", std::to_string(i) + ".wav");
+  Start();
+  house().track_list.Open(AlbumPath("Full"));
+  EXPECT_TRUE(RowShows(12));
+  Click(form().track_list.down);
+  EXPECT_EQ(house().track_list.page_top(), 0);
+  WriteTrack("Full", "99.wav", "Ada", "Last");
+  house().track_list.Open(AlbumPath("Full"));
+  Click(form().track_list.down);
+  EXPECT_EQ(Row(0), "Last");
+  EXPECT_FALSE(RowShows(1));
+  Click(form().track_list.up);
+  EXPECT_TRUE(RowShows(12));
+}
+
+TEST_F(TrackListTest, AFileWithoutATagShowsItsNameOnlyIfAsked) {
+  folder.Write("music/Bare/b.mpg", "x");
+  Start();
+  house().track_list.Open(AlbumPath("Bare"));
+  EXPECT_EQ(Row(0), "No Tag");
+  house().settings.use_filename_if_no_tag = true;
+  house().track_list.Open(AlbumPath("Bare"));
+  EXPECT_EQ(Row(0), "b.mpg");
+}
+
+TEST_F(TrackListTest, AFolderThatIsGoneKeepsTheAlbumBefore) {
+  WriteTrack("Here", "1.wav", "Ada", "Dawn");
+  Start();
+  house().track_list.Open(AlbumPath("Here"));
+  house().track_list.Open(AlbumPath("Gone"));
+  EXPECT_EQ(Row(0), "Dawn");
+}
+
+TEST_F(TrackListTest, TheStripShowsTheArtistsOtherAlbums) {
+  WriteAlbums({{"0", "Aaron"}, {"1", "Ada & Co"}, {"2", "Ada & Co"}, {"3", "ADA & CO"}, {"4", "Bob"}});
+  WriteTrack("2", "1.wav", "Ada & Co", "Dawn");
+  WriteTrack("3", "1.wav", "Ada & Co", "Noon");
+  Start();
+  house().track_list.Open(AlbumPath("2"));
+  EXPECT_TRUE(form().track_list.quick_jump[1].visible());
+  EXPECT_FALSE(form().track_list.quick_jump[2].visible());
+  Click(form().track_list.quick_jump[1]);
+  EXPECT_EQ(Row(0), "Noon");
+  WriteTrack("4", "1.wav", "Bob", "Solo");
+  house().track_list.Open(AlbumPath("4"));
+  EXPECT_FALSE(form().track_list.quick_jump[0].visible());
+  EXPECT_FALSE(form().track_list.quick_jump_left.visible());
+}
+
+TEST_F(TrackListTest, ADamagedSidecarEndsTheHandlerAndNothingElse) {
+  WriteTrack("Bad", "1.wav");
+  folder.Write("music/Bad/1.wav.tag", "<a>\r\n<b>\r\n");
+  WriteAlbums({{"Bad", "Ada"}});
+  Start();
+  Click(form().album.covers[0].cover);
+  EXPECT_EQ(house().boundary.failures(), 1);
+  EXPECT_TRUE(house().state_timer.enabled());
+  Click(form().album.next);
+}
+
+}  // namespace
+}  // namespace sonotik

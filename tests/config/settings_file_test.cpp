@@ -1,0 +1,198 @@
+#include "config/settings_file.h"
+
+#include <gtest/gtest.h>
+
+#include <sstream>
+
+#include "config/settings_table.h"
+#include "files/files.h"
+#include "files/runtime_failure.h"
+#include "support/temp_folder.h"
+#include "support/test_machine.h"
+
+namespace sonotik {
+namespace {
+
+constexpr char kWrongVersion[] =
+    "INI File was not the correct version, loading the defaults...";
+
+class SettingsFileTest : public testing::Test {
+ protected:
+  SettingsFileTest() : path(folder.path()) {
+    folder.Write("sonotik.def", ReadWholeFile(ProgramPath(SONOTIK_SOURCE "/app/sonotik.def")));
+    lists.FillFixed(2);
+    file.on_applied = [this](int row, bool) { applied.push_back(row); };
+  }
+
+  std::vector<std::string> Lines(const std::string& name) const {
+    std::vector<std::string> lines;
+    std::istringstream text(folder.Read(name));
+    for (std::string line; std::getline(text, line);) lines.push_back(line + "\n");
+    return lines;
+  }
+  void WriteLines(const std::vector<std::string>& lines, size_t count) const {
+    std::string text;
+    for (size_t i = 0; i < count; ++i) text += lines[i];
+    folder.Write("sonotik.ini", text);
+  }
+
+  TempFolder folder;
+  std::string path;
+  Settings settings;
+  OptionLists lists;
+  TestMessages messages;
+  SettingsFile file{path, settings, lists, messages};
+  std::vector<int> applied;
+};
+
+TEST_F(SettingsFileTest, TheDeliveredDefaultsLoadAndStandInTheirLines) {
+  file.LoadConfig();
+  EXPECT_TRUE(messages.shown.empty());
+  EXPECT_EQ(lists.skins, ItemList{"Plain"});
+  EXPECT_EQ(lists.calendar_skins, ItemList{"Plain"});
+  EXPECT_EQ(settings.current_skin, "Plain");
+  // The delivered file can't know the folder it lies in.
+  EXPECT_EQ(settings.attract_path, path);
+  const auto lines = Lines("sonotik.def");
+  ASSERT_EQ(lines.size(), 183U);
+  const size_t skins = 1;
+  EXPECT_EQ(lines[11 + skins], "Credit Settings\r\n");
+  EXPECT_EQ(lines[83 + skins], "Display Tabs\r\n");
+  EXPECT_EQ(lines[92 + skins], "Play Button Settings\r\n");
+  EXPECT_EQ(lines[132 + skins], "Shutdown at\r\n");
+  EXPECT_EQ(lines[159 + skins], "Jingles Path\r\n");
+  EXPECT_EQ(lines[180 + skins], "Add all to queue\r\n");
+}
+
+TEST_F(SettingsFileTest, WhatIsSavedLoadsAgainUnchanged) {
+  file.LoadConfig();
+  settings.enable_credit_mode = !settings.enable_credit_mode;
+  settings.wait_between_tracks = "2.5";
+  settings.attract_path = "\\pictures\\of the house";
+  settings.main_volume = -1230;
+  settings.second_monitor = 1;
+  settings.power_reboot = true;
+  settings.exit_time = -1;
+  settings.current_skin = "Unknown";
+  settings.hide_mouse = true;
+  file.SaveConfig();
+  const auto lines = Lines("sonotik.ini");
+  EXPECT_EQ(lines[2], " 0 \r\n");
+  EXPECT_NE(folder.Read("sonotik.ini").find("Dead Air Time\r\n 2.5 \r\n"), std::string::npos);
+  // 1 hides the mouse, whatever the label says.
+  EXPECT_NE(folder.Read("sonotik.ini").find("Show mouse\r\n 1 \r\n"), std::string::npos);
+
+  Settings again;
+  OptionLists more;
+  more.FillFixed(2);
+  SettingsFile(path, again, more, messages).LoadConfig();
+  EXPECT_TRUE(messages.shown.empty());
+  EXPECT_EQ(again, settings);
+}
+
+TEST_F(SettingsFileTest, AFileCutAnywhereButBeforeItsLastRowGivesTheDefaults) {
+  file.LoadConfig();
+  const Settings defaults = settings;
+  Settings changed = settings;
+  changed.add_all_to_queue = true;
+  changed.enable_random_play = true;
+  changed.mute_line_in_on_play = true;
+  SettingsFile(path, changed, lists, messages).SaveConfig();
+  const auto lines = Lines("sonotik.ini");
+  for (size_t count = 0; count < lines.size(); ++count) {
+    WriteLines(lines, count);
+    Settings read;
+    OptionLists fresh;
+    fresh.FillFixed(2);
+    TestMessages said;
+    SettingsFile(path, read, fresh, said).LoadConfig();
+    if (count == lines.size() - 2) {
+      EXPECT_TRUE(said.shown.empty());
+      EXPECT_TRUE(read.mute_line_in_on_play);
+      EXPECT_FALSE(read.add_all_to_queue);
+    } else {
+      EXPECT_EQ(said.shown, std::vector<std::string>{kWrongVersion}) << count;
+      EXPECT_EQ(read, defaults) << count;
+    }
+  }
+}
+
+TEST_F(SettingsFileTest, ABadLineAnywhereShowsOneMessageAndNeverMore) {
+  file.LoadConfig();
+  file.SaveConfig();
+  const auto lines = Lines("sonotik.ini");
+  for (const std::string& bad :
+       {std::string("-32769\r\n"), std::string("a,b,c\r\n"), std::string("\"\r\n"),
+        std::string(70000, '9') + "\r\n", std::string("\0\xFF\x80\r\n", 5)}) {
+    for (size_t at = 0; at < lines.size(); ++at) {
+      auto damaged = lines;
+      damaged[at] = bad;
+      WriteLines(damaged, damaged.size());
+      Settings read;
+      OptionLists fresh;
+      fresh.FillFixed(2);
+      TestMessages said;
+      SettingsFile(path, read, fresh, said).LoadConfig();
+      EXPECT_LE(said.shown.size(), 1U);
+      EXPECT_GE(read.second_monitor, -1);
+      EXPECT_LT(read.second_monitor, 2);
+    }
+  }
+}
+
+TEST_F(SettingsFileTest, ACommaInAValueSlipsAllBehindIt) {
+  file.LoadConfig();
+  settings.cover_image_name = "front,back.jpg";
+  file.SaveConfig();
+  file.LoadConfig();
+  EXPECT_EQ(messages.shown, std::vector<std::string>{kWrongVersion});
+  EXPECT_EQ(settings.cover_image_name, "Cover.jpg");
+}
+
+TEST_F(SettingsFileTest, IndexesOutsideTheirListsAreErrorsAndNoneIsLegal) {
+  for (const int style : {-1, 0, 14, -2, 15}) {
+    messages.shown.clear();
+    settings.animation_style = style;
+    file.SaveConfig();
+    file.LoadConfig();
+    EXPECT_EQ(messages.shown.size(), style < -1 || style > 14 ? 1U : 0U) << style;
+  }
+}
+
+TEST_F(SettingsFileTest, RowsApplyInFileOrderAndTheHeldOnesBehindThem) {
+  file.LoadConfig();
+  const auto first_held = std::find(applied.begin(), applied.end(), 41);
+  ASSERT_NE(first_held, applied.end());
+  EXPECT_TRUE(std::is_sorted(applied.begin(), first_held));
+  EXPECT_EQ(*(first_held - 1), 79);
+  EXPECT_EQ(std::vector<int>(first_held, applied.end()), HeldBackRows());
+}
+
+TEST_F(SettingsFileTest, OfABadFileOnlyTheValuesThatDoNotWaitStay) {
+  file.LoadConfig();
+  settings.shuffle_queue_each_play = true;
+  settings.main_volume = -700;
+  file.SaveConfig();
+  auto lines = Lines("sonotik.ini");
+  WriteLines(lines, 150);
+  folder.Write("sonotik.def", "nothing");
+  settings = Settings();
+  EXPECT_THROW(file.LoadConfig(), RuntimeFailure);
+  EXPECT_TRUE(settings.shuffle_queue_each_play);
+  EXPECT_EQ(settings.main_volume, 0);
+}
+
+TEST_F(SettingsFileTest, ReadingTwiceDoublesTheSkins) {
+  file.LoadConfig();
+  file.LoadConfig();
+  EXPECT_EQ(lists.skins, (ItemList{"Plain", "Plain"}));
+}
+
+TEST_F(SettingsFileTest, WithoutAnyFileTheFailureLeaves) {
+  std::filesystem::remove(folder.native() / "sonotik.def");
+  EXPECT_THROW(file.LoadConfig(), RuntimeFailure);
+  EXPECT_EQ(messages.shown, std::vector<std::string>{kWrongVersion});
+}
+
+}  // namespace
+}  // namespace sonotik

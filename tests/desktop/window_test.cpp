@@ -1,0 +1,160 @@
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QFontInfo>
+#include <QImage>
+#include <QMouseEvent>
+#include <QPainter>
+
+#include "desktop/form_window.h"
+#include "desktop/painter_canvas.h"
+#include "desktop/program_folder.h"
+#include "desktop/text_decoding.h"
+#include "support/jukebox_test.h"
+
+namespace sonotik {
+namespace {
+
+class WindowTest : public JukeboxTest {
+ protected:
+  void ShowWindow() {
+    window = std::make_unique<FormWindow>(form().form, pictures);
+    window->show();
+    Settle();
+  }
+  static void Settle() {
+    for (int i = 0; i < 10; ++i) QCoreApplication::processEvents();
+  }
+  void MouseAt(QEvent::Type type, const QPointF& at) {
+    QMouseEvent event(type, at, at, Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(window.get(), &event);
+  }
+  PictureCache pictures;
+  std::unique_ptr<FormWindow> window;
+};
+
+TEST_F(WindowTest, AnIdleScreenIsNotRepaintedAndAChangeIsOnce) {
+  settings.show_time_and_date = false;
+  WriteDefaults();
+  Start();
+  ShowWindow();
+  Advance(3);
+  Settle();
+  const int before = window->paints();
+  EXPECT_GT(before, 0);
+  for (int i = 0; i < 30; ++i) {
+    Advance(1);
+    Settle();
+  }
+  EXPECT_EQ(window->paints(), before);
+  form().credits.SetCaption("changed");
+  form().clock.SetCaption("changed too");
+  Settle();
+  EXPECT_EQ(window->paints(), before + 1);
+}
+
+TEST_F(WindowTest, ATouchFindsItsControlAtAnyWindowSize) {
+  Start();
+  ShowWindow();
+  for (const QSize size : {QSize(1280, 800), QSize(640, 400), QSize(1920, 800), QSize(800, 900)}) {
+    window->resize(size);
+    Settle();
+    form().HideAllScreens();
+    form().ShowScreen(screen::kAlbum);
+    const double scale = std::min(size.width() / 1280.0, size.height() / 800.0);
+    const Rect place =
+        form().menu_buttons[static_cast<size_t>(MenuButton::kShowQueue)].AbsolutePlace();
+    const QPointF at((size.width() - 1280 * scale) / 2 + (place.left + place.width / 2) * scale,
+                     (size.height() - 800 * scale) / 2 + (place.top + place.height / 2) * scale);
+    MouseAt(QEvent::MouseButtonPress, at);
+    MouseAt(QEvent::MouseButtonRelease, at);
+    EXPECT_TRUE(form().panel(screen::kQueue).visible()) << size.width();
+  }
+}
+
+TEST_F(WindowTest, StaysOpenUntilTheProgramLeaves) {
+  Start();
+  ShowWindow();
+  window->may_close = [this] { return jukebox->MayClose(); };
+  EXPECT_FALSE(window->close());
+  EXPECT_TRUE(window->isVisible());
+  jukebox->LeaveInOrder();
+  EXPECT_TRUE(window->close());
+}
+
+TEST(Fonts, TheFontOfTheDesignIsTheOneThatIsTaken) {
+  const Font font;
+  EXPECT_EQ(QFontInfo(QFont(QString::fromStdString(font.family))).family(),
+            QString::fromStdString(font.family));
+}
+
+TEST(TextDecoding, TakesUtf8WhereItIsValidAndTheOldCodePageElsewhere) {
+  EXPECT_EQ(Decode("Caf\xC3\xA9"), QString::fromUtf8("Caf\xC3\xA9"));
+  EXPECT_EQ(Decode("Caf\xE9 \x80 \x92"), QString::fromUtf8("Caf\u00E9 \u20AC \u2019"));
+  EXPECT_EQ(Decode("\xC3\x28"), QString::fromUtf8("\u00C3("));
+}
+
+TEST(Pictures, AreDecodedOnceAtTheirSizeAndAgainOnlyWhenTheFileChanges) {
+  const TempFolder folder;
+  QImage image(600, 300, QImage::Format_RGB32);
+  image.fill(Qt::red);
+  const QString native = QString::fromStdString((folder.native() / "Cover.jpg").string());
+  ASSERT_TRUE(image.save(native));
+  PictureCache pictures;
+  const std::string path = folder.path() + "\\cover.JPG";
+  const struct {
+    PictureFit fit;
+    QSize size;
+  } cases[] = {{PictureFit::kStretch, {100, 100}},
+               {PictureFit::kCover, {100, 100}},
+               {PictureFit::kContain, {100, 50}},
+               {PictureFit::kReflection, {100, 100}}};
+  for (const auto& c : cases) {
+    EXPECT_EQ(pictures.Get(path, {100, 100}, c.fit).size(), c.size);
+    pictures.Get(path, {100, 100}, c.fit);
+  }
+  EXPECT_EQ(pictures.decodes(), 4);
+  image.fill(Qt::blue);
+  ASSERT_TRUE(image.save(native, nullptr, 40));
+  const QRgb pixel = pictures.Get(path, {100, 100}, PictureFit::kCover).pixel(50, 50);
+  EXPECT_GT(qBlue(pixel), 200);
+}
+
+TEST(Pictures, AreBoundedAndHostileOnesAreNone) {
+  const TempFolder folder;
+  PictureCache pictures(1 << 20);
+  QImage image(400, 400, QImage::Format_RGB32);
+  image.fill(Qt::green);
+  for (int i = 0; i < 10; ++i) {
+    const std::string name = std::to_string(i) + ".png";
+    ASSERT_TRUE(image.save(QString::fromStdString((folder.native() / name).string())));
+    EXPECT_FALSE(pictures.Get(folder.path() + "\\" + name, {400, 400}, PictureFit::kCover).isNull());
+    EXPECT_LE(pictures.bytes(), (1 << 20));
+  }
+  std::string whole = folder.Read("0.png");
+  folder.Write("cut.png", whole.substr(0, 60));
+  folder.Write("empty.jpg", "");
+  // A head that claims 30,000 x 30,000 pixels.
+  whole.replace(16, 8, std::string("\0\0\x75\x30\0\0\x75\x30", 8));
+  folder.Write("huge.png", whole);
+  for (const char* name : {"cut.png", "empty.jpg", "huge.png", "gone.png"}) {
+    EXPECT_TRUE(
+        pictures.Get(folder.path() + "\\" + name, {100, 100}, PictureFit::kCover).isNull())
+        << name;
+  }
+}
+
+TEST(ProgramFolders, AreWhereALinkStands) {
+  const TempFolder folder;
+  folder.Write("bin/sonotik", "x");
+  std::filesystem::permissions(folder.native() / "bin/sonotik", std::filesystem::perms::all);
+  std::filesystem::create_directory(folder.native() / "box");
+  std::filesystem::create_symlink("../bin/sonotik", folder.native() / "box/sonotik");
+  const std::string started = (folder.native() / "box/sonotik").string();
+  EXPECT_EQ(ProgramFolder(started.c_str(), ""), folder.native() / "box");
+  const std::string search = "/nowhere:" + (folder.native() / "bin").string();
+  EXPECT_EQ(ProgramFolder("sonotik", search.c_str()), folder.native() / "bin");
+}
+
+}  // namespace
+}  // namespace sonotik

@@ -1,0 +1,94 @@
+#include <gtest/gtest.h>
+
+#include "support/jukebox_test.h"
+
+namespace sonotik {
+namespace {
+
+class CreditsTest : public JukeboxTest {
+ protected:
+  CreditsTest() {
+    settings.enable_credit_mode = true;
+    WriteDefaults();
+    // By column: Add To Queue, Play Next, Play Now for audio, then video, then karaoke.
+    folder.Write("cost.dat", " 0 \r\n 2 \r\n 4 \r\n 1 \r\n 3 \r\n 5 \r\n 6 \r\n 7 \r\n 8 \r\n");
+  }
+  std::string Caption() { return form().credits.caption(); }
+};
+
+TEST_F(CreditsTest, TheSumTakenIsReadAcrossTheGridFromTheSumShown) {
+  Start();
+  Credits& credits = house().credits;
+  EXPECT_EQ(credits.ShownPrice(kAudio, PlayWay::kPlayNext), 2);
+  credits.Receive("100");
+  EXPECT_TRUE(credits.ChargeForSelection(kAudio, false, true, false));
+  EXPECT_EQ(credits.count(), 97);
+  EXPECT_TRUE(credits.ChargeForSelection(kVideo, false, false, false));
+  EXPECT_EQ(credits.count(), 95);
+  EXPECT_TRUE(credits.ChargeForSelection(kKaraoke, true, false, false));
+  EXPECT_EQ(credits.count(), 86);
+  EXPECT_EQ(Caption(), "CREDITS:  86");
+}
+
+TEST_F(CreditsTest, WithTooFewNothingIsAddedOrTaken) {
+  Start();
+  house().credits.Receive("2");
+  house().selection.Choose("\\m\\1.wav", PlayWay::kPlayNext);
+  EXPECT_EQ(house().credits.count(), 2);
+  EXPECT_EQ(house().queue.count(), 0);
+  EXPECT_FALSE(folder.Has("queue.upl"));
+  house().credits.Receive("1");
+  house().selection.Choose("\\m\\1.wav", PlayWay::kPlayNext);
+  EXPECT_EQ(house().credits.count(), 0);
+  EXPECT_EQ(house().queue.count(), 1);
+}
+
+TEST_F(CreditsTest, TheMachineOtherPagesAndBothFlagsPayNothing) {
+  Start();
+  EXPECT_TRUE(house().credits.ChargeForSelection(kAudio, false, false, true));
+  EXPECT_TRUE(house().credits.ChargeForSelection(kNewSongs, false, false, false));
+  EXPECT_TRUE(house().credits.ChargeForSelection(kAudio, true, true, false));
+  EXPECT_FALSE(house().credits.ChargeForSelection(kAudio, false, false, false));
+}
+
+TEST_F(CreditsTest, CoinsAreAnyTextAndNeverWrap) {
+  Start();
+  const struct {
+    const char* text;
+    int count;
+  } cases[] = {{"abc", 0},     {"", 0},      {"1.5", 2},       {"2.5", 4},      {"0.5", 4},
+               {"-1", 3},      {"1e2", 103}, {"99999999", 32767}, {"1", 32767},
+               {"-99999999", -32768}, {"-1", -32768}};
+  for (const auto& c : cases) {
+    house().credits.Receive(c.text);
+    EXPECT_EQ(house().credits.count(), c.count) << c.text;
+  }
+  EXPECT_NE(Caption(), "CREDITS: -32768");
+  Advance(0.1);
+  EXPECT_EQ(Caption(), "CREDITS: -32768");
+}
+
+TEST_F(CreditsTest, OnlyARealSwitchStartsTheCreditModule) {
+  Start();
+  const std::string module = folder.path() + "\\creditmodule.exe";
+  EXPECT_EQ(machine.processes.started, std::vector<std::string>{module});
+  jukebox->effects.LoadConfig();
+  EXPECT_EQ(machine.processes.started.size(), 1U);
+}
+
+TEST_F(CreditsTest, WithoutCoinsThePlayOptionsShowPricesAndNoButton) {
+  const std::string path = WriteTrack("A", "1.wav");
+  Start();
+  house().play_options.show_play_options(path, screen::kTrackList);
+  PlayOptionsScreen& screen = form().play_options;
+  EXPECT_EQ(screen.message.caption(), "Insert Coins To Play AUDIO");
+  EXPECT_FALSE(screen.play_now.visible());
+  EXPECT_FALSE(screen.cancel.visible());
+  EXPECT_EQ(screen.prices[0].caption(), " 1 Credits Add To Queue");
+  EXPECT_EQ(screen.prices[2].caption(), " 7 Credits Play NOW");
+  Click(screen.message);
+  EXPECT_FALSE(screen.panel.visible());
+}
+
+}  // namespace
+}  // namespace sonotik

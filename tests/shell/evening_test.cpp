@@ -1,0 +1,277 @@
+// The guest's road through a running jukebox, and what the jukebox does by itself.
+#include <gtest/gtest.h>
+
+#include "files/files.h"
+#include "support/jukebox_test.h"
+
+namespace sonotik {
+namespace {
+
+class EveningTest : public JukeboxTest {
+ protected:
+  EveningTest() {
+    for (const char* title : {"Dawn", "Noon", "Dusk"}) {
+      tracks.push_back(
+          WriteTrack("Day", std::to_string(tracks.size() + 1) + " " + title + ".wav", "Ada", title));
+    }
+    WriteAlbums({{"Day", "Ada"}});
+  }
+  std::string Playing() { return machine.player.file; }
+  std::string Title() { return form().now_playing_title.caption(); }
+  int Plays(const char* history = kUserHistory) {
+    const std::string path = folder.path() + "\\" + history;
+    return FileExists(path) ? static_cast<int>(FileLength(path) / 1070) : 0;
+  }
+  std::vector<std::string> tracks;
+};
+
+TEST_F(EveningTest, AGuestPicksACoverATrackAndHearsIt) {
+  Start();
+  Click(form().album.covers[0].cover);
+  EXPECT_EQ(form().track_list.rows[1].title.caption(), "Noon");
+  Click(form().track_list.rows[1].title);
+  EXPECT_EQ(form().play_options.title.caption(), "Noon");
+  Click(form().play_options.play_now);
+  EXPECT_EQ(Playing(), tracks[1]);
+  EXPECT_EQ(Title(), "Noon");
+  EXPECT_FALSE(form().panel(screen::kPlayOptions).visible());
+  EXPECT_EQ(form().length.caption(), "0:30");
+  Advance(5);
+  EXPECT_EQ(form().position.caption().substr(0, 3), "0:0");
+  EXPECT_NE(form().position.caption(), "0:00");
+  EXPECT_EQ(Plays(), 1);
+  Click(form().track_list.back);
+  EXPECT_TRUE(form().panel(screen::kAlbum).visible());
+  EXPECT_FALSE(form().panel(screen::kTrackList).visible());
+}
+
+TEST_F(EveningTest, TheNextEntryStartsOnTheTickThatEndsTheOneBefore) {
+  Start();
+  for (const std::string& track : tracks) house().selection.Choose(track, PlayWay::kAddToQueue);
+  Advance(1);
+  EXPECT_EQ(Playing(), tracks[0]);
+  EXPECT_EQ(house().queue.count(), 2);
+  EXPECT_EQ(form().now_playing.next_song_title.caption(), "Noon");
+  machine.player.Add(30);
+  Advance(1);
+  EXPECT_EQ(Playing(), tracks[1]);
+  machine.player.Add(30);
+  Advance(1);
+  EXPECT_FALSE(form().now_playing.next_song.visible());
+  machine.player.Add(30);
+  Advance(1);
+  EXPECT_FALSE(machine.player.playing());
+  EXPECT_EQ(Title(), kNoSongPlaying);
+  EXPECT_EQ(form().position.caption(), "0:00");
+  EXPECT_EQ(Plays(), 3);
+}
+
+TEST_F(EveningTest, FilesThatAreGoneOrDamagedNeverStopTheQueue) {
+  folder.Write("music/Day/broken.wav", "x");
+  folder.Write("music/Day/broken.wav.tag", "too short");
+  Start();
+  machine.player.lengths[tracks[0]] = -1;
+  house().queue.Append(folder.path() + "\\gone.wav", "");
+  house().queue.Append(AlbumPath("Day") + "broken.wav", "");
+  house().queue.Append(tracks[0], "");
+  house().queue.Append(tracks[2], "");
+  Advance(4);
+  EXPECT_EQ(Playing(), tracks[2]);
+  EXPECT_TRUE(machine.player.playing());
+  EXPECT_EQ(house().queue.count(), 0);
+}
+
+TEST_F(EveningTest, APausedTrackNeverEndsAndDropsPlayNow) {
+  Start();
+  house().selection.Choose(tracks[0], PlayWay::kPlayNow);
+  Click(form().player_buttons[static_cast<size_t>(PlayerButton::kPause)]);
+  EXPECT_TRUE(form().paused.visible());
+  machine.player.SetPosition(30);
+  Advance(3);
+  EXPECT_EQ(Plays(), 1);
+  house().selection.Choose(tracks[1], PlayWay::kPlayNow);
+  EXPECT_EQ(Playing(), tracks[0]);
+  EXPECT_EQ(house().queue.count(), 0);
+  machine.player.SetPosition(10);
+  Click(form().player_buttons[static_cast<size_t>(PlayerButton::kPause)]);
+  EXPECT_TRUE(machine.player.playing());
+  Click(form().player_buttons[static_cast<size_t>(PlayerButton::kNext)]);
+  house().queue.Append(tracks[2], "");
+  Advance(1);
+  EXPECT_EQ(Playing(), tracks[2]);
+}
+
+TEST_F(EveningTest, AButtonThatStartsAMissingFileLeavesTheTickOffUntilAStartSucceeds) {
+  Start();
+  house().selection.Choose(folder.path() + "\\gone.wav", PlayWay::kPlayNow);
+  EXPECT_FALSE(house().state_timer.enabled());
+  house().selection.Choose(tracks[0], PlayWay::kPlayNow);
+  EXPECT_TRUE(house().state_timer.enabled());
+}
+
+TEST_F(EveningTest, KaraokePlaysTheCdgUnderTheNamesOfTheMp3) {
+  folder.Write("music/Day/Song.mp3", "x");
+  folder.Write("music/Day/Song.cdg", "x");
+  Start();
+  house().selection.Choose(AlbumPath("Day") + "Song.mp3", PlayWay::kPlayNow);
+  EXPECT_EQ(Playing(), AlbumPath("Day") + "Song.CDG");
+  EXPECT_TRUE(form().now_playing.video.visible());
+  EXPECT_EQ(house().playback.current_track_path, AlbumPath("Day") + "Song.CDG");
+  // The sidecar's name plays its file, as audio.
+  house().selection.Choose(tracks[0] + ".tag", PlayWay::kPlayNow);
+  EXPECT_EQ(Playing(), tracks[0]);
+  EXPECT_FALSE(form().now_playing.video.visible());
+  Advance(2);
+  // An M4A counts as a video.
+  folder.Write("music/Day/x.m4a", std::string(70000, '\0'));
+  house().selection.Choose(AlbumPath("Day") + "x.m4a", PlayWay::kPlayNow);
+  EXPECT_TRUE(form().now_playing.video.visible());
+}
+
+TEST_F(EveningTest, TheRandomVolumeBelongsToTheMachinesOwnTracks) {
+  settings.use_random_volume = true;
+  settings.main_volume = -300;
+  settings.random_volume = -900;
+  WriteDefaults();
+  Start();
+  house().selection.Choose(tracks[0], PlayWay::kPlayNow);
+  EXPECT_EQ(machine.player.volume, -300);
+  house().playback.random_in_progress = true;
+  house().selection.Choose(tracks[1], PlayWay::kPlayNow);
+  EXPECT_EQ(machine.player.volume, -900);
+  EXPECT_EQ(Plays(kRandomHistory), 1);
+}
+
+TEST_F(EveningTest, ATrackStartDoesItsStepsInOrder) {
+  settings.mute_line_in_on_play = settings.enable_mic_on_videos = true;
+  settings.use_visualisations = settings.use_second_monitor = true;
+  WriteDefaults();
+  Start();
+  std::vector<std::string> steps;
+  TrackStartHooks& hooks = house().tracks.hooks;
+  hooks.mute_line_in = [&] { steps.push_back("line"); };
+  hooks.send_to_sign = [&] { steps.push_back("sign " + house().fields.txtTitle); };
+  hooks.start_visualisation = [&] { steps.push_back("visualise"); };
+  hooks.close_visualisation = [&] { steps.push_back("close"); };
+  hooks.mute_microphone = [&](bool mute) { steps.push_back(mute ? "mute" : "unmute"); };
+  hooks.show_second_monitor = [&](bool show) { steps.push_back(show ? "show" : "hide"); };
+  hooks.start_song_facts = [&] { steps.push_back("facts " + std::to_string(Plays())); };
+  house().selection.Choose(tracks[0], PlayWay::kPlayNow);
+  EXPECT_EQ(steps, (std::vector<std::string>{"line", "sign Dawn", "visualise", "mute", "facts 1"}));
+  steps.clear();
+  folder.Write("music/Day/clip.mpg", "x");
+  house().selection.Choose(AlbumPath("Day") + "clip.mpg", PlayWay::kPlayNow);
+  EXPECT_EQ(steps, (std::vector<std::string>{"line", "sign No Tag", "close", "unmute", "show",
+                                             "facts 2"}));
+}
+
+TEST_F(EveningTest, IdleTimeLeadsToTheNowPlayingScreenAndATouchResetsIt) {
+  settings.now_playing_wait = "5";
+  WriteDefaults();
+  Start();
+  Advance(5);
+  form().form.PressMouse({2, 2});
+  Advance(5);
+  EXPECT_FALSE(form().panel(screen::kNowPlaying).visible());
+  Advance(3);
+  EXPECT_TRUE(form().panel(screen::kNowPlaying).visible());
+  EXPECT_FALSE(form().panel(screen::kAlbum).visible());
+}
+
+TEST_F(EveningTest, TheOptionsScreenHoldsTheIdleChainUntilItCloses) {
+  settings.now_playing_wait = "";
+  WriteDefaults();
+  Start();
+  form().HideAllScreens();
+  form().ShowScreen(screen::kOptions);
+  Advance(20);
+  EXPECT_FALSE(form().panel(screen::kNowPlaying).visible());
+  form().HideAllScreens();
+  Advance(1);
+  EXPECT_TRUE(form().panel(screen::kNowPlaying).visible());
+}
+
+TEST_F(EveningTest, ThePositionLabelStandsStillFromAThousandSecondsOn) {
+  machine.player.lengths[tracks[0]] = 4000;
+  Start();
+  house().selection.Choose(tracks[0], PlayWay::kPlayNow);
+  machine.player.SetPosition(998);
+  Advance(1);
+  const std::string last = form().position.caption();
+  EXPECT_EQ(last, "16:39");
+  machine.player.SetPosition(2000);
+  Advance(2);
+  EXPECT_EQ(form().position.caption(), last);
+}
+
+TEST_F(EveningTest, TheTimedExitSavesTheQueueAndLeaves) {
+  settings.exit_program_at = true;
+  settings.exit_time = 25;  // 12:30
+  settings.save_queue_on_shutdown = true;
+  settings.shutdown_command = "/bin/sync";
+  WriteDefaults();
+  Start();
+  house().selection.Choose(tracks[0], PlayWay::kPlayNow);
+  machine.player.lengths[tracks[0]] = 9000;
+  house().selection.Choose(tracks[1], PlayWay::kAddToQueue);
+  Advance(5);
+  EXPECT_FALSE(machine.events.left);
+  EXPECT_FALSE(jukebox->MayClose());
+  machine.clock.Add(30 * 60 * 1000);
+  machine.timers.FireDue();
+  EXPECT_TRUE(machine.events.left);
+  EXPECT_TRUE(jukebox->MayClose());
+  EXPECT_EQ(machine.processes.started, std::vector<std::string>{"/bin/sync"});
+  EXPECT_NE(folder.Read("queue.dat").find(tracks[1]), std::string::npos);
+  EXPECT_FALSE(house().state_timer.enabled());
+}
+
+TEST_F(EveningTest, AFailingHandlerGivesItsTimerBack) {
+  Start();
+  jukebox->ticks.hooks.TickSongFacts = [] { throw RuntimeFailure("no facts"); };
+  jukebox->ticks.hooks.PollKeys = [] { throw RuntimeFailure("no keys"); };
+  Advance(3);
+  EXPECT_GE(house().boundary.failures(), 6);
+  EXPECT_TRUE(house().state_timer.enabled());
+  EXPECT_TRUE(house().timer1.enabled());
+}
+
+TEST_F(EveningTest, NothingIsPaintedWhileNothingChanges) {
+  settings.show_time_and_date = false;
+  WriteDefaults();
+  Start();
+  Advance(3);
+  form().form.TakeDirty();
+  int dirtied = 0;
+  form().form.on_dirty = [&] { ++dirtied; };
+  Advance(20);
+  EXPECT_EQ(dirtied, 0);
+}
+
+TEST_F(EveningTest, AWholeAlbumIsQueuedOnce) {
+  Start();
+  Click(form().album.covers[0].cover);
+  Click(form().track_list.add_entire_album);
+  Click(form().track_list.add_entire_album);
+  EXPECT_EQ(house().queue.count(), 3);
+}
+
+TEST_F(EveningTest, ADuplicateCanBeLeftByATouchOnly) {
+  settings.allow_duplicates_in_queue = false;
+  WriteDefaults();
+  Start();
+  machine.player.lengths[tracks[0]] = 9000;
+  house().selection.Choose(tracks[0], PlayWay::kPlayNow);
+  house().selection.Choose(tracks[1], PlayWay::kAddToQueue);
+  Click(form().album.covers[0].cover);
+  Click(form().track_list.rows[1].title);
+  EXPECT_EQ(form().play_options.message.caption(), "Track Already In Queue");
+  EXPECT_FALSE(form().play_options.add_to_queue.visible());
+  EXPECT_TRUE(form().play_options.cancel.visible());
+  EXPECT_EQ(form().play_options.queue_line.caption(), "(1) Songs In Queue");
+  Click(form().play_options.message);
+  EXPECT_FALSE(form().panel(screen::kPlayOptions).visible());
+}
+
+}  // namespace
+}  // namespace sonotik

@@ -1,0 +1,130 @@
+#include "widgets/control.h"
+
+#include <gtest/gtest.h>
+
+#include "widgets/Slider.h"
+#include "widgets/controls.h"
+#include "widgets/lvButtons_H.h"
+
+namespace sonotik {
+namespace {
+
+struct Screen {
+  Form form;
+  Panel panel;
+  lvButtons_H button;
+  PictureBox over;
+  Screen() {
+    form.SetPlace({0, 0, 200, 100});
+    form.Add(panel, {10, 10, 100, 80});
+    panel.Add(button, {20, 20, 40, 20});
+    panel.Add(over, {20, 20, 40, 20});
+    form.TakeDirty();
+  }
+};
+
+TEST(Controls, AClickGoesThroughWhatDoesNotTakeTheMouse) {
+  Screen screen;
+  int clicks = 0;
+  screen.button.on_click = [&] { ++clicks; };
+  screen.form.Click({35, 35});
+  EXPECT_EQ(clicks, 1);
+  screen.over.on_click = [] {};
+  screen.form.Click({35, 35});
+  EXPECT_EQ(clicks, 1);
+}
+
+TEST(Controls, LettingGoElsewhereIsNoClick) {
+  Screen screen;
+  int clicks = 0;
+  int ups = 0;
+  screen.button.on_click = [&] { ++clicks; };
+  screen.button.on_mouse_up = [&](const MouseEvent&) { ++ups; };
+  screen.form.PressMouse({35, 35});
+  EXPECT_TRUE(screen.button.held());
+  screen.form.ReleaseMouse({150, 90});
+  EXPECT_FALSE(screen.button.held());
+  EXPECT_EQ(clicks, 0);
+  EXPECT_EQ(ups, 1);
+  screen.form.PressMouse({35, 35}, MouseButton::kRight);
+  screen.form.ReleaseMouse({35, 35}, MouseButton::kRight);
+  EXPECT_EQ(clicks, 0);
+}
+
+TEST(Controls, OnlyARealChangeOfWhatShowsIsPainted) {
+  Screen screen;
+  screen.button.SetCaption("A");
+  const auto dirty = screen.form.TakeDirty();
+  ASSERT_EQ(dirty.size(), 1U);
+  EXPECT_EQ(dirty[0], (Rect{30, 30, 40, 20}));
+  screen.button.SetCaption("A");
+  EXPECT_FALSE(screen.form.dirty());
+  screen.panel.SetVisible(false);
+  screen.form.TakeDirty();
+  screen.button.SetCaption("B");
+  EXPECT_FALSE(screen.form.dirty());
+}
+
+TEST(Controls, AControlThatEndsIsForgotten) {
+  Screen screen;
+  {
+    lvButtons_H brief;
+    brief.on_click = [] {};
+    screen.panel.Add(brief, {0, 0, 10, 10});
+    screen.form.PressMouse({12, 12});
+  }
+  screen.form.ReleaseMouse({12, 12});
+  screen.form.MoveMouse({12, 12});
+  EXPECT_EQ(screen.panel.children().size(), 2U);
+}
+
+TEST(Controls, ASecondTapBelongsToTheControlOfTheFirst) {
+  Screen screen;
+  Label row;
+  Panel dialog;
+  screen.form.Add(row, {120, 0, 50, 20});
+  screen.form.Add(dialog, {110, 0, 90, 100});
+  dialog.SetVisible(false);
+  int doubles = 0;
+  row.on_click = [&] { dialog.SetVisible(true); };
+  row.on_double_click = [&] { ++doubles; };
+  screen.form.Click({130, 10});
+  screen.form.DoubleClickMouse({130, 10});
+  EXPECT_EQ(doubles, 1);
+}
+
+TEST(Controls, HoverFollowsTheMouseAndLeavesWithIt) {
+  Screen screen;
+  screen.form.MoveMouse({35, 35});
+  EXPECT_TRUE(screen.button.hovered());
+  screen.form.MoveMouse({150, 90});
+  EXPECT_FALSE(screen.button.hovered());
+}
+
+TEST(Sliders, FollowTheFingerWithinTheirRange) {
+  Form form;
+  Slider slider;
+  form.SetPlace({0, 0, 300, 50});
+  form.Add(slider, {0, 0, 114, 40});
+  slider.SetRange(-4000, 0);
+  int heard = 1;
+  slider.on_scroll = [&](int value) { heard = value; };
+  form.PressMouse({57, 20});
+  EXPECT_EQ(heard, -2000);
+  form.MoveMouse({500, 20});
+  EXPECT_EQ(slider.value(), 0);
+  form.ReleaseMouse({500, 20});
+  form.MoveMouse({0, 20});
+  EXPECT_EQ(slider.value(), 0);
+  slider.SetValue(-9999);
+  EXPECT_EQ(slider.value(), -4000);
+}
+
+TEST(Labels, ShowDoubledAmpersandsOnceAndNoAccessMarks) {
+  EXPECT_EQ(CaptionAsShown("Rock && Roll"), "Rock & Roll");
+  EXPECT_EQ(CaptionAsShown("&Play"), "Play");
+  EXPECT_EQ(CaptionAsShown("Tom & Jerry&"), "Tom & Jerry&");
+}
+
+}  // namespace
+}  // namespace sonotik
