@@ -29,7 +29,9 @@ void Label::Paint(Canvas& canvas) const {
   const bool plate = highlighted_ || plate_;
   if (plate) canvas.FillRect(inner, highlighted_ ? back_color_ : *plate_, 4);
   if (caption_.empty()) return;
-  canvas.DrawText(CaptionAsShown(caption_), plate ? inner.Inset(kPlateMargin) : inner, style_);
+  const float margin = plate ? kPlateMargin : 0;
+  canvas.DrawText(CaptionAsShown(caption_), {margin, 0, inner.width - 2 * margin, inner.height},
+                  style_);
 }
 
 void PictureBox::Paint(Canvas& canvas) const {
