@@ -70,8 +70,7 @@ void PageOfFiftyRecords(benchmark::State& state) {
   for (auto _ : state) {
     RecordFile file(catalogue.AlbumFileFor(cursor), AlbumRecord::kSize);
     for (int64_t n = 20000; n < 20050; ++n) {
-      benchmark::DoNotOptimize(
-          catalogue.ReadAlbumRecord(file, n).Trimmed(AlbumRecord::kArtist));
+      benchmark::DoNotOptimize(catalogue.ReadAlbumRecord(file, n).Trimmed(AlbumRecord::kArtist));
     }
   }
 }

@@ -47,8 +47,7 @@ void AlbumPages::PaintPage(bool at_random) {
   }
   int slot = 1;
   for (; slot <= covers && pos <= count; ++slot, ++pos) {
-    const long number =
-        at_random ? std::min<long>(machine_.random.Below(count) + 1, count) : pos;
+    const long number = at_random ? std::min<long>(machine_.random.Below(count) + 1, count) : pos;
     // The digits show the running position, also over a random album.
     FillSlot(slot, catalogue_.ReadAlbumRecord(file, number), pos);
     ShowCover(slot);
@@ -91,8 +90,7 @@ void AlbumPages::ShowCover(int slot) {
   }
   position.new_badge.SetVisible(is_new);
   // An album without a folder keeps its place on the page, without a picture.
-  const std::string picture =
-      entry.folder.empty() ? "" : covers_.FindCoverPicture(entry.folder);
+  const std::string picture = entry.folder.empty() ? "" : covers_.FindCoverPicture(entry.folder);
   position.cover.SetPicture(picture);
   if (layout_.show_reflections) position.reflection.SetPicture(picture);
 }
@@ -101,9 +99,8 @@ void AlbumPages::HideCover(int slot) {
   slots_[static_cast<size_t>(slot)] = {};
   CoverPosition& position = screen_.covers[static_cast<size_t>(slot) - 1];
   // The "new" badge is left as it is.
-  const std::initializer_list<Control*> items = {&position.album, &position.artist,
-                                                 &position.cover, &position.frame,
-                                                 &position.reflection};
+  const std::initializer_list<Control*> items = {&position.album, &position.artist, &position.cover,
+                                                 &position.frame, &position.reflection};
   for (Control* item : items) item->SetVisible(false);
 }
 

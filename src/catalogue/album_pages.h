@@ -15,8 +15,7 @@
 namespace sonotik {
 
 // Reveals a panel by an animation; a later part of the house draws it.
-using Animate =
-    std::function<void(Panel& panel, int show, int style, int delay_ms, int steps)>;
+using Animate = std::function<void(Panel& panel, int show, int style, int delay_ms, int steps)>;
 
 // What a slot of the page holds. Slot 1 is the first cover; slot 0 is not used.
 struct CoverSlot {

@@ -14,8 +14,8 @@ namespace sonotik {
 // Which covers index the pages show. Exactly one is in force.
 enum class CatalogueSource { kRecords, kVideos, kKaraoke, kNew, kGenre };
 
-// The kind of media in view, for searches, charts and prices. It is not the source: some tabs change
-// one and leave the other.
+// The kind of media in view, for searches, charts and prices. It is not the source: some tabs
+// change one and leave the other.
 enum MediaKind : int { kAudio = 0, kVideo = 1, kKaraoke = 2, kNewSongs = 4 };
 
 // Where the guest stands in the catalogue.

@@ -22,8 +22,7 @@ bool StandsBefore(const MostPlayed::Row& a, const MostPlayed::Row& b) {
 }
 
 MostPlayed::Row NewRow(const std::string& path, const TagFields& names, size_t order) {
-  return {path, names.txtArtist, names.txtTitle, names.txtAlbum, "01",
-          static_cast<int64_t>(order)};
+  return {path, names.txtArtist, names.txtTitle, names.txtAlbum, "01", static_cast<int64_t>(order)};
 }
 
 void Put(HistoryRecord& record, RecordField field, std::string_view text) {
@@ -33,8 +32,8 @@ void Put(HistoryRecord& record, RecordField field, std::string_view text) {
 }  // namespace
 
 void MostPlayed::Count(const std::string& path, const TagFields& names) {
-  const auto known = std::find_if(rows_.begin(), rows_.end(),
-                                  [&](const Row& row) { return row.path == path; });
+  const auto known =
+      std::find_if(rows_.begin(), rows_.end(), [&](const Row& row) { return row.path == path; });
   Row row = known == rows_.end() ? NewRow(path, names, rows_.size()) : std::move(*known);
   if (known != rows_.end()) {
     row.played = OneMore(row.played);
@@ -44,8 +43,8 @@ void MostPlayed::Count(const std::string& path, const TagFields& names) {
 }
 
 void MostPlayed::CountAll(
-    const std::function<void(
-        const std::function<void(const std::string& path, const TagFields& names)>&)>& feed) {
+    const std::function<
+        void(const std::function<void(const std::string& path, const TagFields& names)>&)>& feed) {
   std::unordered_map<std::string, size_t> places;
   for (size_t i = 0; i < rows_.size(); ++i) places[rows_[i].path] = i;
   feed([&](const std::string& path, const TagFields& names) {

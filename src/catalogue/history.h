@@ -30,8 +30,9 @@ class MostPlayed {
   // One more play of a path; the names count for a new row only.
   void Count(const std::string& path, const TagFields& names);
   // The same for many at once: the rows are sorted when the last one is in.
-  void CountAll(const std::function<void(const std::function<void(
-                    const std::string& path, const TagFields& names)>&)>& feed);
+  void CountAll(
+      const std::function<
+          void(const std::function<void(const std::string& path, const TagFields& names)>&)>& feed);
 
   const std::vector<Row>& rows() const { return rows_; }
 

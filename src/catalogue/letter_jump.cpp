@@ -12,7 +12,7 @@ namespace {
 constexpr int kZones = 27;
 
 struct JumpRule {
-  long base;  // of the position stored for a hit: the strip counts from 2, the buttons from 1
+  long base;      // of the position stored for a hit: the strip counts from 2, the buttons from 1
   bool scans[5];  // by CatalogueSource
 };
 

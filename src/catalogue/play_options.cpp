@@ -36,8 +36,7 @@ void PlayOptions::show_play_options(const std::string& path, size_t calling_scre
 void PlayOptions::ShowButtons() {
   screen_.message.SetCaption("");
   for (Label& price : screen_.prices) price.SetVisible(false);
-  const bool queued =
-      !settings_.allow_duplicates_in_queue && is_queued(WithoutTagMark(path_));
+  const bool queued = !settings_.allow_duplicates_in_queue && is_queued(WithoutTagMark(path_));
   const bool coins = credits_.InsertCoins(cursor_.media_kind);
   const bool offer = !queued && !coins;
   screen_.play_now.SetVisible(offer && settings_.play_it_now);
@@ -50,9 +49,8 @@ void PlayOptions::ShowButtons() {
 }
 
 void PlayOptions::ShowPrices() {
-  static constexpr const char* kMessages[] = {"Insert Coins To Play AUDIO",
-                                              "Insert Coins To Play VIDEO",
-                                              "Insert Coins To KARAOKE"};
+  static constexpr const char* kMessages[] = {
+      "Insert Coins To Play AUDIO", "Insert Coins To Play VIDEO", "Insert Coins To KARAOKE"};
   screen_.message.SetCaption(kMessages[cursor_.media_kind]);
   const struct {
     PlayWay way;

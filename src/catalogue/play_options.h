@@ -19,9 +19,7 @@ class PlayOptions {
               const Credits& credits, TagReader& tags, const TagFields& fields, Form1& form);
 
   // What the queue says of a path and of itself.
-  std::function<bool(const std::string& path)> is_queued = [](const std::string&) {
-    return false;
-  };
+  std::function<bool(const std::string& path)> is_queued = [](const std::string&) { return false; };
   std::function<int()> queue_count = [] { return 0; };
 
   // Opens the screen for a track. `calling_screen` is the panel to return to.

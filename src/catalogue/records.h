@@ -63,8 +63,8 @@ struct HistoryRecord : FixedRecord<1070> {
 struct SongFactRecord : FixedRecord<1395> {
   static constexpr RecordField kArtist{0, 60};
   static constexpr RecordField kTrack{60, 60};
-  static constexpr RecordField kFacts[5] = {{120, 255}, {375, 255}, {630, 255}, {885, 255},
-                                            {1140, 255}};
+  static constexpr RecordField kFacts[5] = {
+      {120, 255}, {375, 255}, {630, 255}, {885, 255}, {1140, 255}};
 };
 
 }  // namespace sonotik

@@ -16,8 +16,8 @@ void FactTable::load_facts() {
   SongFactRecord record;
   for (int64_t n = 1; n <= file.count(); ++n) {
     file.Read(n, record.bytes);
-    SongFacts row{record.Trimmed(SongFactRecord::kArtist), record.Trimmed(SongFactRecord::kTrack),
-                  {}};
+    SongFacts row{
+        record.Trimmed(SongFactRecord::kArtist), record.Trimmed(SongFactRecord::kTrack), {}};
     for (size_t i = 0; i < row.facts.size(); ++i) {
       row.facts[i] = record.Trimmed(SongFactRecord::kFacts[i]);
     }

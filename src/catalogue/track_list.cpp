@@ -7,9 +7,8 @@
 namespace sonotik {
 
 TrackList::TrackList(const std::string& app_path, const Settings& settings, Catalogue& catalogue,
-                     CatalogueCursor& cursor, const CoverLayout& layout,
-                     const CoverFinder& covers, TagReader& tags, const TagFields& fields,
-                     Form1& form)
+                     CatalogueCursor& cursor, const CoverLayout& layout, const CoverFinder& covers,
+                     TagReader& tags, const TagFields& fields, Form1& form)
     : settings_(settings),
       catalogue_(catalogue),
       cursor_(cursor),

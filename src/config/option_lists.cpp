@@ -33,11 +33,21 @@ void OptionLists::FillFixed(int monitor_count) {
   for (int code = 0; code <= 130; ++code) {
     key_codes.push_back("CHR" + NumberCaption(code) + " - " + static_cast<char>(code));
   }
-  cover_animations = {"Appear From Left",    "Appear From Right",   "Appear From Top",
-                      "Appear From Bottom",  "Generate Left Top",   "Generate Left Bottom",
-                      "Generate Right Top",  "Generate Right Bottom", "Strech Horizontally",
-                      "Strech Vertically",   "Zoom Out",            "Fold Out",
-                      "Curtain Horizontal",  "Curtain Vertical",    "Random"};
+  cover_animations = {"Appear From Left",
+                      "Appear From Right",
+                      "Appear From Top",
+                      "Appear From Bottom",
+                      "Generate Left Top",
+                      "Generate Left Bottom",
+                      "Generate Right Top",
+                      "Generate Right Bottom",
+                      "Strech Horizontally",
+                      "Strech Vertically",
+                      "Zoom Out",
+                      "Fold Out",
+                      "Curtain Horizontal",
+                      "Curtain Vertical",
+                      "Random"};
 }
 
 }  // namespace sonotik

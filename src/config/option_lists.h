@@ -10,10 +10,10 @@ namespace sonotik {
 using ItemList = std::vector<std::string>;
 
 struct OptionLists {
-  ItemList startup_databases;   // "Database to use on startup..."
+  ItemList startup_databases;  // "Database to use on startup..."
   ItemList sign_types;
   ItemList sign_ports;
-  ItemList monitors;            // "Second Monitor ID:"
+  ItemList monitors;  // "Second Monitor ID:"
   ItemList double_click_actions;
   ItemList exit_times;          // "Exit Program at:", each half hour of the day
   ItemList jingle_song_counts;  // "Song Count:"

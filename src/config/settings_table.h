@@ -31,7 +31,7 @@ enum class SettingKind {
 struct SettingValue {
   SettingKind kind = SettingKind::kText;
   std::variant<std::monostate, bool Settings::*, int Settings::*, std::string Settings::*> member;
-  const char* caption = "";             // on the options page; for a constant its line
+  const char* caption = "";               // on the options page; for a constant its line
   ItemList OptionLists::*list = nullptr;  // what a kIndex points into
 };
 

@@ -33,8 +33,7 @@ int RunJukebox(const std::string& app_path) {
   MpvPlayer player([](std::function<void()> call) {
     QMetaObject::invokeMethod(qApp, std::move(call), Qt::QueuedConnection);
   });
-  Machine machine{clock,    random,    loop,    timers, keys, player,
-                  displays, processes, messages};
+  Machine machine{clock, random, loop, timers, keys, player, displays, processes, messages};
   PictureCache pictures;
   Jukebox jukebox(app_path, machine);
   Form1& form1 = jukebox.house.form1;

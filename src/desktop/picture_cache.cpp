@@ -41,8 +41,7 @@ QImage DecodeFile(const QString& file, QSize size, PictureFit fit) {
                                    : fit == PictureFit::kContain ? Qt::KeepAspectRatio
                                                                  : Qt::KeepAspectRatioByExpanding;
   // A reflection shows the lower edge of a picture as wide as its place.
-  const QSize wanted =
-      fit == PictureFit::kReflection ? QSize(size.width(), size.width()) : size;
+  const QSize wanted = fit == PictureFit::kReflection ? QSize(size.width(), size.width()) : size;
   const bool turned = reader.transformation() & QImageIOHandler::TransformationRotate90;
   if (!native.isEmpty()) {
     const QSize shown = turned ? native.transposed() : native;

@@ -13,8 +13,8 @@ bool Exists(const fs::path& path) {
   return fs::exists(fs::symlink_status(path, error));
 }
 
-// Of two names that differ from the asked one by case only, the first by bytes is taken, so that the
-// choice doesn't depend on the order in which the disk lists them.
+// Of two names that differ from the asked one by case only, the first by bytes is taken, so that
+// the choice doesn't depend on the order in which the disk lists them.
 fs::path FindIgnoringCase(const fs::path& folder, const std::string& name) {
   std::string best;
   std::error_code error;
@@ -73,8 +73,6 @@ std::string KindOf(std::string_view path) {
 
 std::string WithoutTagMark(std::string_view path) { return ReplaceAll(path, ".tag", ""); }
 
-std::string WithSingleSeparators(std::string_view path) {
-  return ReplaceAll(path, "\\\\", "\\");
-}
+std::string WithSingleSeparators(std::string_view path) { return ReplaceAll(path, "\\\\", "\\"); }
 
 }  // namespace sonotik

@@ -25,8 +25,9 @@ class RecordFile {
   // held.
   int64_t count() const { return records_ == 0 ? 1 : records_; }
 
-  // Reads record n. Records asked for one behind the other are fetched in blocks. Past the end of the file the buffer keeps what it holds. Throws RuntimeFailure
-  // for a number below 1 and for a read that fails.
+  // Reads record n. Records asked for one behind the other are fetched in blocks. Past the end of
+  // the file the buffer keeps what it holds. Throws RuntimeFailure for a number below 1 and for a
+  // read that fails.
   void Read(int64_t n, std::span<char> record);
 
  private:

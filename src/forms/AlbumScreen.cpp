@@ -5,8 +5,8 @@ namespace {
 
 using namespace design;
 
-constexpr float kSide = 64;            // the paging buttons at both edges
-constexpr float kCell = 190;           // six cells a row between them
+constexpr float kSide = 64;   // the paging buttons at both edges
+constexpr float kCell = 190;  // six cells a row between them
 constexpr float kCover = 166;
 constexpr float kGridTop = 68;
 constexpr float kRowHeight = 240;
@@ -15,8 +15,7 @@ void AddCover(Panel& panel, CoverPosition& position, int index) {
   const float left = kSide + 6 + kCell * static_cast<float>(index % 6) + (kCell - kCover) / 2;
   const float top = kGridTop + kRowHeight * static_cast<float>(index / 6);
   AddPicture(panel, position.cover, {left, top, kCover, kCover});
-  AddPicture(panel, position.reflection, {left, top + kCover, kCover, 24},
-             PictureFit::kReflection);
+  AddPicture(panel, position.reflection, {left, top + kCover, kCover, 24}, PictureFit::kReflection);
   AddPicture(panel, position.frame, {left - 4, top - 4, kCover + 8, kCover + 8},
              PictureFit::kStretch);
   AddLabel(panel, position.new_badge, {left + kCover - 46, top - 6, 50, 22}, 9, kText,
@@ -60,10 +59,9 @@ AlbumScreen::AlbumScreen(Panel& screen) : panel(screen) {
   AddPanel(panel, letters, {kSide + 6, 554, 1140, 48});
   for (size_t i = 0; i < letter_buttons.size(); ++i) {
     const bool start = i == 26;
-    AddButton(letters, letter_buttons[i],
-              {39.5F * static_cast<float>(i), 2, start ? 113.0F : 36.0F, 44},
-              start ? "Jump To Start" : std::string(1, static_cast<char>('A' + i)),
-              start ? 10 : 12);
+    AddButton(
+        letters, letter_buttons[i], {39.5F * static_cast<float>(i), 2, start ? 113.0F : 36.0F, 44},
+        start ? "Jump To Start" : std::string(1, static_cast<char>('A' + i)), start ? 10 : 12);
   }
   AddPanel(panel, strip, {kSide + 6, 608, 1140, 26}, kRaised);
   AddPanel(strip, strip_thumb, {0, 2, 42, 22}, kAmber);

@@ -23,9 +23,9 @@ Form1::Form1()
   form.SetTitle("Sonotik");
 
   AddPanel(form, menu, {0, 0, kWidth, kMenuHeight}, kPanel);
-  static constexpr const char* kMenu[] = {"History", "Top 20",  "Search",        "Show Queue",
-                                          "Options", "Decades", "Carousel View", "Genres",
-                                          "Album View"};
+  static constexpr const char* kMenu[] = {"History",       "Top 20",  "Search",
+                                          "Show Queue",    "Options", "Decades",
+                                          "Carousel View", "Genres",  "Album View"};
   // By how often a guest wants them, from the left.
   static constexpr float kMenuPlaces[] = {7, 6, 3, 1, 8, 5, 2, 4, 0};
   for (size_t i = 0; i < menu_buttons.size(); ++i) {

@@ -29,9 +29,8 @@ QueueScreen::QueueScreen(Panel& screen) : panel(screen) {
   }
   AddLabel(panel, remaining, {24, 584, 950, 36}, 12, kMuted);
 
-  static constexpr const char* kCaptions[] = {"Move Up",     "Move Down", "Remove Song",
-                                              "Play Now",    "Clear Queue", "Burn CD",
-                                              "Shuffle Queue"};
+  static constexpr const char* kCaptions[] = {
+      "Move Up", "Move Down", "Remove Song", "Play Now", "Clear Queue", "Burn CD", "Shuffle Queue"};
   // "Burn CD" is the one that few cabinets show: it stands last.
   static constexpr float kPlaces[] = {0, 1, 2, 3, 5, 6, 4};
   for (size_t i = 0; i < commands.size(); ++i) {

@@ -12,8 +12,8 @@ void SetUpButton(Panel& panel, lvButtons_H& button, const Rect& place, const std
 
 }  // namespace
 
-void AddLabel(Panel& panel, Label& label, const Rect& place, float points, Color color,
-              Align align, bool bold) {
+void AddLabel(Panel& panel, Label& label, const Rect& place, float points, Color color, Align align,
+              bool bold) {
   panel.Add(label, place);
   label.SetFont({.points = points, .bold = bold});
   label.SetForeColor(color);
@@ -29,8 +29,8 @@ void AddButton(Panel& panel, lvButtons_H& button, const Rect& place, const std::
   button.SetHoverColors(kInk, kAmber);
 }
 
-void AddMainButton(Panel& panel, lvButtons_H& button, const Rect& place,
-                   const std::string& caption, float points) {
+void AddMainButton(Panel& panel, lvButtons_H& button, const Rect& place, const std::string& caption,
+                   float points) {
   SetUpButton(panel, button, place, caption, {.points = points, .bold = true});
   button.SetForeColor(kInk);
   button.SetBackColor(kAmber);

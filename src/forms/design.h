@@ -34,8 +34,8 @@ void AddLabel(Panel& panel, Label& label, const Rect& place, float points, Color
 void AddButton(Panel& panel, lvButtons_H& button, const Rect& place, const std::string& caption,
                float points = 12);
 // The button that people came for.
-void AddMainButton(Panel& panel, lvButtons_H& button, const Rect& place,
-                   const std::string& caption, float points = 13);
+void AddMainButton(Panel& panel, lvButtons_H& button, const Rect& place, const std::string& caption,
+                   float points = 13);
 void AddPicture(Panel& panel, PictureBox& picture, const Rect& place,
                 PictureFit fit = PictureFit::kCover);
 void AddPanel(Panel& panel, Panel& child, const Rect& place, Color color = kNight);

@@ -4,10 +4,9 @@
 
 namespace sonotik {
 
-Selection::Selection(const Settings& settings, PlaybackState& state,
-                     const CatalogueCursor& cursor, Credits& credits, Queue& queue,
-                     QueueView& view, TrackSequence& tracks, const CoverFinder& covers,
-                     TagReader& tags)
+Selection::Selection(const Settings& settings, PlaybackState& state, const CatalogueCursor& cursor,
+                     Credits& credits, Queue& queue, QueueView& view, TrackSequence& tracks,
+                     const CoverFinder& covers, TagReader& tags)
     : settings_(settings),
       state_(state),
       cursor_(cursor),

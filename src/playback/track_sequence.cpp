@@ -56,8 +56,8 @@ void TrackSequence::Play_track3(std::string path) {
   const std::string folder = FolderOf(path);
   ShowCover(covers_.FindCoverPicture(folder));
   // The tag may have left the time of the file before standing; it is shown as it is.
-  const std::string length = fields_.txtmp3time.empty() ? MinutesSeconds(engine_.MediaDuration())
-                                                        : fields_.txtmp3time;
+  const std::string length =
+      fields_.txtmp3time.empty() ? MinutesSeconds(engine_.MediaDuration()) : fields_.txtmp3time;
   form1_.length.SetCaption(length);
   form1_.now_playing.length.SetCaption(length);
   history_.AddToHistory(path, state_.random_in_progress ? kRandomHistory : kUserHistory);
@@ -109,8 +109,7 @@ void TrackSequence::ShowCover(const std::string& picture) {
 void TrackSequence::clear_playing_info() {
   for (Label* label : {&form1_.now_playing_artist, &form1_.now_playing_title,
                        &form1_.now_playing.artist, &form1_.now_playing.title,
-                       &form1_.now_playing.next_song_artist,
-                       &form1_.now_playing.next_song_title}) {
+                       &form1_.now_playing.next_song_artist, &form1_.now_playing.next_song_title}) {
     label->SetCaption(kNoSongPlaying);
   }
   for (Label* label : {&form1_.position, &form1_.length, &form1_.now_playing.length}) {

@@ -36,8 +36,8 @@ struct TrackStartHooks {
 class TrackSequence {
  public:
   TrackSequence(EventLoop& events, const Settings& settings, PlaybackState& state,
-                MediaEngine& engine, const CoverFinder& covers, History& history,
-                TagReader& tags, const TagFields& fields, Timer& state_timer, Form1& form);
+                MediaEngine& engine, const CoverFinder& covers, History& history, TagReader& tags,
+                const TagFields& fields, Timer& state_timer, Form1& form);
 
   TrackStartHooks hooks;
 

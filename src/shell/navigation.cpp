@@ -31,8 +31,8 @@ void Navigation::WireMenu() {
   for (size_t i = 0; i < buttons.size(); ++i) {
     OnClick(buttons[i], "menu", [this, i] { OpenMenu(static_cast<MenuButton>(i)); });
   }
-  for (lvButtons_H* back : {&house_.form1.track_list.back, &house_.form1.queue.back,
-                            &house_.form1.carousel.back}) {
+  for (lvButtons_H* back :
+       {&house_.form1.track_list.back, &house_.form1.queue.back, &house_.form1.carousel.back}) {
     OnClick(*back, "BACK", [this] { Back(); });
   }
 }
@@ -102,9 +102,10 @@ void Navigation::WireAlbumScreen() {
   const auto drag_thumb = [&](const MouseEvent& event) {
     strip.Drag(screen.strip_thumb.place().left + event.at.x);
   };
-  screen.strip_thumb.on_mouse_move = house_.boundary.Guarded("letter strip", [this, drag_thumb](const MouseEvent& event) {
-    if (house_.form1.form.captured() == &house_.form1.album.strip_thumb) drag_thumb(event);
-  });
+  screen.strip_thumb.on_mouse_move =
+      house_.boundary.Guarded("letter strip", [this, drag_thumb](const MouseEvent& event) {
+        if (house_.form1.form.captured() == &house_.form1.album.strip_thumb) drag_thumb(event);
+      });
   screen.strip_thumb.on_mouse_up =
       house_.boundary.Guarded("letter strip", [&strip, drag_thumb](const MouseEvent& event) {
         drag_thumb(event);
@@ -174,8 +175,7 @@ void Navigation::DoubleClickTrackRow(int row) {
   if (path.empty()) return;
   house_.form1.panel(screen::kPlayOptions).SetVisible(false);
   // The list's order: "Play Now", "Play Next", "Add To Queue".
-  static constexpr PlayWay kWays[] = {PlayWay::kPlayNow, PlayWay::kPlayNext,
-                                      PlayWay::kAddToQueue};
+  static constexpr PlayWay kWays[] = {PlayWay::kPlayNow, PlayWay::kPlayNext, PlayWay::kAddToQueue};
   const int action = house_.settings.double_click_action;
   if (action < 0 || action > 2) return;
   house_.selection.Choose(path, kWays[action]);

@@ -8,8 +8,8 @@ namespace sonotik {
 namespace {
 
 // 1 to 12 are used.
-constexpr const char* kMonthNames[] = {"",     "JANUARY",   "FEBRUARY", "MARCH",    "APRIL",
-                                       "MAY",  "JUNE",      "JULY",     "AUGUST",   "SEPTEMBER",
+constexpr const char* kMonthNames[] = {"",        "JANUARY",  "FEBRUARY", "MARCH",  "APRIL",
+                                       "MAY",     "JUNE",     "JULY",     "AUGUST", "SEPTEMBER",
                                        "OCTOBER", "NOVEMBER", "DECEMBER"};
 
 }  // namespace

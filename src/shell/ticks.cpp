@@ -106,8 +106,8 @@ bool Ticks::ItIsTimeToLeave() const {
 
 void Ticks::EndTrack() {
   // Whole seconds: the last fraction of a track isn't played. A paused track never ends.
-  if (!house_.playback.paused && std::trunc(house_.engine.MediaDuration()) ==
-                                     std::trunc(house_.engine.MediaPosition())) {
+  if (!house_.playback.paused &&
+      std::trunc(house_.engine.MediaDuration()) == std::trunc(house_.engine.MediaPosition())) {
     house_.engine.MediaStop();
   }
 }

@@ -23,8 +23,7 @@ std::optional<int> WholeNumber(std::string_view text, size_t longest) {
 }  // namespace
 
 std::string DateText(const Date& date) {
-  return LastDigits(date.month, 2) + "/" + LastDigits(date.day, 2) + "/" +
-         LastDigits(date.year, 4);
+  return LastDigits(date.month, 2) + "/" + LastDigits(date.day, 2) + "/" + LastDigits(date.year, 4);
 }
 
 std::string TimeText(const DateTime& now) {

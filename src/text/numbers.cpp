@@ -15,9 +15,7 @@ std::string_view SkipPlus(std::string_view text) {
 
 }  // namespace
 
-std::string NumberCaption(long number) {
-  return (number < 0 ? "" : " ") + std::to_string(number);
-}
+std::string NumberCaption(long number) { return (number < 0 ? "" : " ") + std::to_string(number); }
 
 std::string NumberField(long number) { return NumberCaption(number) + " "; }
 

@@ -28,8 +28,9 @@ TEST_F(AlbumPagesTest, ThePageCaptionCountsFromZeroAndEndsOneShort) {
   const struct {
     int albums;
     const char* caption;
-  } cases[] = {{0, "Current Page : 0/-1"}, {1, "Current Page : 0/-1"}, {2, "Current Page : 0/ 0"},
-               {12, "Current Page : 0/ 0"}, {13, "Current Page : 0/ 0"}, {14, "Current Page : 0/ 1"},
+  } cases[] = {{0, "Current Page : 0/-1"},  {1, "Current Page : 0/-1"},
+               {2, "Current Page : 0/ 0"},  {12, "Current Page : 0/ 0"},
+               {13, "Current Page : 0/ 0"}, {14, "Current Page : 0/ 1"},
                {25, "Current Page : 0/ 1"}, {26, "Current Page : 0/ 2"}};
   for (const auto& c : cases) {
     WriteCount(c.albums);
@@ -184,7 +185,8 @@ TEST_F(AlbumPagesTest, ASpinShowsRandomAlbumsUnderTheRunningDigits) {
 TEST_F(AlbumPagesTest, AWeekMakesAnAlbumOldAndEmptiedPlacesKeepTheirBadge) {
   settings.show_new_on_recent_albums = true;
   WriteDefaults();
-  WriteAlbums({{"Today", "A", "01/15/2024"}, {"Six", "B", "1/9/2024"}, {"Seven", "C", "01/08/2024"}});
+  WriteAlbums(
+      {{"Today", "A", "01/15/2024"}, {"Six", "B", "1/9/2024"}, {"Seven", "C", "01/08/2024"}});
   Start();
   EXPECT_TRUE(Cover(0).new_badge.visible());
   EXPECT_TRUE(Cover(1).new_badge.visible());
@@ -203,8 +205,7 @@ TEST_F(AlbumPagesTest, CoversComeByTheOneRule) {
   folder.Write("music/First/A.jpg", "x");
   folder.Write("music/None/notes.txt", "x");
   Start();
-  const std::string not_found =
-      folder.path() + "\\skins\\Plain\\images\\ImageNotFound.jpg";
+  const std::string not_found = folder.path() + "\\skins\\Plain\\images\\ImageNotFound.jpg";
   const CoverFinder& covers = house().covers;
   EXPECT_EQ(covers.FindCoverPicture(AlbumPath("With")), AlbumPath("With") + "\\Cover.jpg");
   EXPECT_EQ(covers.FindCoverPicture(AlbumPath("First")), not_found);
@@ -229,8 +230,14 @@ TEST_F(AlbumPagesTest, NamesShowDoubledAmpersandsOrNotAtAll) {
 }
 
 TEST_F(AlbumPagesTest, TheCarouselStandsAnArtistInEachColumn) {
-  WriteAlbums({{"1", "Ada"}, {"2", "ada"}, {"3", "Bob"}, {"4", "Cy"}, {"5", "Di"}, {"6", "Eve"},
-               {"7", "Eve"}, {"8", "Flo"}});
+  WriteAlbums({{"1", "Ada"},
+               {"2", "ada"},
+               {"3", "Bob"},
+               {"4", "Cy"},
+               {"5", "Di"},
+               {"6", "Eve"},
+               {"7", "Eve"},
+               {"8", "Flo"}});
   Start();
   house().cursor.SetPosition(1);
   house().form1.HideAllScreens();

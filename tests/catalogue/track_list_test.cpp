@@ -73,7 +73,8 @@ TEST_F(TrackListTest, AFolderThatIsGoneKeepsTheAlbumBefore) {
 }
 
 TEST_F(TrackListTest, TheStripShowsTheArtistsOtherAlbums) {
-  WriteAlbums({{"0", "Aaron"}, {"1", "Ada & Co"}, {"2", "Ada & Co"}, {"3", "ADA & CO"}, {"4", "Bob"}});
+  WriteAlbums(
+      {{"0", "Aaron"}, {"1", "Ada & Co"}, {"2", "Ada & Co"}, {"3", "ADA & CO"}, {"4", "Bob"}});
   WriteTrack("2", "1.wav", "Ada & Co", "Dawn");
   WriteTrack("3", "1.wav", "Ada & Co", "Noon");
   Start();

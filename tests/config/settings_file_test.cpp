@@ -13,8 +13,7 @@
 namespace sonotik {
 namespace {
 
-constexpr char kWrongVersion[] =
-    "INI File was not the correct version, loading the defaults...";
+constexpr char kWrongVersion[] = "INI File was not the correct version, loading the defaults...";
 
 class SettingsFileTest : public testing::Test {
  protected:

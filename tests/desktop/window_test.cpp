@@ -128,7 +128,8 @@ TEST(Pictures, AreBoundedAndHostileOnesAreNone) {
   for (int i = 0; i < 10; ++i) {
     const std::string name = std::to_string(i) + ".png";
     ASSERT_TRUE(image.save(QString::fromStdString((folder.native() / name).string())));
-    EXPECT_FALSE(pictures.Get(folder.path() + "\\" + name, {400, 400}, PictureFit::kCover).isNull());
+    EXPECT_FALSE(
+        pictures.Get(folder.path() + "\\" + name, {400, 400}, PictureFit::kCover).isNull());
     EXPECT_LE(pictures.bytes(), (1 << 20));
   }
   std::string whole = folder.Read("0.png");
@@ -138,8 +139,7 @@ TEST(Pictures, AreBoundedAndHostileOnesAreNone) {
   whole.replace(16, 8, std::string("\0\0\x75\x30\0\0\x75\x30", 8));
   folder.Write("huge.png", whole);
   for (const char* name : {"cut.png", "empty.jpg", "huge.png", "gone.png"}) {
-    EXPECT_TRUE(
-        pictures.Get(folder.path() + "\\" + name, {100, 100}, PictureFit::kCover).isNull())
+    EXPECT_TRUE(pictures.Get(folder.path() + "\\" + name, {100, 100}, PictureFit::kCover).isNull())
         << name;
   }
 }

@@ -56,9 +56,10 @@ TEST_F(CreditsTest, CoinsAreAnyTextAndNeverWrap) {
   const struct {
     const char* text;
     int count;
-  } cases[] = {{"abc", 0},     {"", 0},      {"1.5", 2},       {"2.5", 4},      {"0.5", 4},
-               {"-1", 3},      {"1e2", 103}, {"99999999", 32767}, {"1", 32767},
-               {"-99999999", -32768}, {"-1", -32768}};
+  } cases[] = {
+      {"abc", 0},    {"", 0},      {"1.5", 2},          {"2.5", 4},   {"0.5", 4},
+      {"-1", 3},     {"1e2", 103}, {"99999999", 32767}, {"1", 32767}, {"-99999999", -32768},
+      {"-1", -32768}};
   for (const auto& c : cases) {
     house().credits.Receive(c.text);
     EXPECT_EQ(house().credits.count(), c.count) << c.text;

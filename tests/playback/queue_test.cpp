@@ -57,8 +57,8 @@ TEST_F(QueueTest, TheExportNamesEachEntry) {
   Start();
   house().selection.Choose(path, PlayWay::kAddToQueue);
   const std::string cover = AlbumPath("Mix") + "Cover.jpg";
-  EXPECT_EQ(folder.Read("queue.upl"), " 1 \r\n" + path + "\r\n" + cover +
-                                          "\r\nAda\r\nDawn\r\nMix\r\n\r\n\r\n");
+  EXPECT_EQ(folder.Read("queue.upl"),
+            " 1 \r\n" + path + "\r\n" + cover + "\r\nAda\r\nDawn\r\nMix\r\n\r\n\r\n");
 }
 
 TEST_F(QueueTest, PlayNextGoesBeforeAnEarlierPlayNext) {

@@ -11,8 +11,8 @@ class EveningTest : public JukeboxTest {
  protected:
   EveningTest() {
     for (const char* title : {"Dawn", "Noon", "Dusk"}) {
-      tracks.push_back(
-          WriteTrack("Day", std::to_string(tracks.size() + 1) + " " + title + ".wav", "Ada", title));
+      tracks.push_back(WriteTrack("Day", std::to_string(tracks.size() + 1) + " " + title + ".wav",
+                                  "Ada", title));
     }
     WriteAlbums({{"Day", "Ada"}});
   }

@@ -20,13 +20,24 @@ class StartUpTest : public JukeboxTest {
   }
 };
 
-const std::vector<std::string> kAllMilestones = {
-    "***SONGFACTS NOTLOADED***", "Genres Check Complete", "Combo Buttons Set Up",
-    "History Set Up", "Keyboard Shortcuts Loaded", "Set app Path", "Year Buttons Set Up",
-    "Start UP Complete", "INI File load Complete", "Skin Load Complete", "QUEUE Load Complete",
-    "Key Load Complete", "Permissions Load Complete", "CostLoad Complete",
-    "BETABRITE Settings Load Complete", "Teminal/Master Load Complete",
-    "History CHART Load Complete", "Random PLAY Load Complete"};
+const std::vector<std::string> kAllMilestones = {"***SONGFACTS NOTLOADED***",
+                                                 "Genres Check Complete",
+                                                 "Combo Buttons Set Up",
+                                                 "History Set Up",
+                                                 "Keyboard Shortcuts Loaded",
+                                                 "Set app Path",
+                                                 "Year Buttons Set Up",
+                                                 "Start UP Complete",
+                                                 "INI File load Complete",
+                                                 "Skin Load Complete",
+                                                 "QUEUE Load Complete",
+                                                 "Key Load Complete",
+                                                 "Permissions Load Complete",
+                                                 "CostLoad Complete",
+                                                 "BETABRITE Settings Load Complete",
+                                                 "Teminal/Master Load Complete",
+                                                 "History CHART Load Complete",
+                                                 "Random PLAY Load Complete"};
 
 TEST_F(StartUpTest, ReachesItsMilestonesInOrderAndKeepsThoseOfOtherRuns) {
   Start();
@@ -50,11 +61,10 @@ TEST_F(StartUpTest, WithoutACatalogueTheConfigurationProgramIsStartedAndItEnds) 
   std::filesystem::remove(folder.native() / "Records.rec");
   Start();
   EXPECT_EQ(result, StartUpResult::kNoCatalogue);
-  EXPECT_EQ(machine.messages.shown,
-            std::vector<std::string>{
-                "You don't have any databases created, Click OK to run the CONFIG"});
-  EXPECT_EQ(machine.processes.started,
-            std::vector<std::string>{folder.path() + "\\Config 3.exe"});
+  EXPECT_EQ(
+      machine.messages.shown,
+      std::vector<std::string>{"You don't have any databases created, Click OK to run the CONFIG"});
+  EXPECT_EQ(machine.processes.started, std::vector<std::string>{folder.path() + "\\Config 3.exe"});
   EXPECT_FALSE(house().state_timer.enabled());
   EXPECT_EQ(Milestones().back(), "Skin Load Complete");
   EXPECT_FALSE(folder.Has("Records.rec"));
@@ -78,8 +88,8 @@ TEST_F(StartUpTest, WithoutAnySettingsThereIsNoJukebox) {
 }
 
 TEST_F(StartUpTest, DamagedDataFilesCostOnlyWhatTheyHold) {
-  for (const char* name : {"queue.dat", "keyboard.dat", "permissions.ini", "cost.dat",
-                           "random.dat", "songfacts.dat", "User_history.dat", "Records.cvr"}) {
+  for (const char* name : {"queue.dat", "keyboard.dat", "permissions.ini", "cost.dat", "random.dat",
+                           "songfacts.dat", "User_history.dat", "Records.cvr"}) {
     for (const char* bytes : {"", "\r\n", "nonsense", " 3 \r\n", "\"", "\0\0\0"}) {
       folder.Write(name, bytes);
       Start();
@@ -156,9 +166,9 @@ TEST_F(StartUpTest, TheSeamsRunAtTheirPlaces) {
   hooks.load_terminal = note("terminal");
   hooks.load_history_chart = note("chart");
   jukebox->Start();
-  EXPECT_EQ(seen, (std::vector<std::string>{"genre bar after 1", "style after 7", "skin after 9",
-                                            "sign after 14", "terminal after 15",
-                                            "chart after 16"}));
+  EXPECT_EQ(seen,
+            (std::vector<std::string>{"genre bar after 1", "style after 7", "skin after 9",
+                                      "sign after 14", "terminal after 15", "chart after 16"}));
 }
 
 TEST_F(StartUpTest, ACoverLayoutOfTheSkinIsTakenBeforeTheFirstPage) {

@@ -173,8 +173,7 @@ struct TestMachine {
   TestDisplays displays;
   TestProcesses processes;
   TestMessages messages;
-  Machine machine{clock,  random,   events,    timers,  keys,
-                  player, displays, processes, messages};
+  Machine machine{clock, random, events, timers, keys, player, displays, processes, messages};
 };
 
 }  // namespace sonotik

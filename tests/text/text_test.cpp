@@ -48,8 +48,8 @@ TEST(Numbers, AreReadWholeOrNotAtAll) {
   const struct {
     const char* text;
     std::optional<double> number;
-  } cases[] = {{" 12 ", 12}, {"-1 ", -1},  {"", 0},      {"   ", 0},  {"+3", 3},
-               {"1.5", 1.5}, {"1e3", 1000}, {"12x", {}},  {"x", {}},   {"1,5", {}},
+  } cases[] = {{" 12 ", 12}, {"-1 ", -1},   {"", 0},      {"   ", 0},   {"+3", 3},
+               {"1.5", 1.5}, {"1e3", 1000}, {"12x", {}},  {"x", {}},    {"1,5", {}},
                {"inf", {}},  {"nan", {}},   {"0x10", {}}, {"1e999", {}}};
   for (const auto& c : cases) EXPECT_EQ(ParseNumber(c.text), c.number) << c.text;
   EXPECT_EQ(LeadingNumber(" 3 Songs"), 3);
