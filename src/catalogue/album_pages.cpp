@@ -12,6 +12,7 @@ namespace {
 
 // An album is new for a week.
 constexpr long kNewDays = 7;
+constexpr int kRandomStyle = 14;
 
 }  // namespace
 
@@ -48,15 +49,19 @@ void AlbumPages::PaintPage(bool at_random) {
   int slot = 1;
   for (; slot <= covers && pos <= count; ++slot, ++pos) {
     const long number = at_random ? std::min<long>(machine_.random.Below(count) + 1, count) : pos;
-    // The digits show the running position, also over a random album.
+    // A random album may come twice, and the digits show the running position over it; both are
+    // meant.
     FillSlot(slot, catalogue_.ReadAlbumRecord(file, number), pos);
     ShowCover(slot);
     slots_[static_cast<size_t>(slot) + 1] = {};
   }
   for (; slot <= covers; ++slot) HideCover(slot);
   if (settings_.use_animated_covers) {
-    animate(form1_.panel(screen::kAlbum), 1, settings_.animation_style,
-            settings_.cover_animation_speed, 33);
+    // The last style of the list stands for any of the others.
+    const int style = settings_.animation_style == kRandomStyle
+                          ? static_cast<int>(machine_.random.Below(kRandomStyle))
+                          : settings_.animation_style;
+    animate(form1_.panel(screen::kAlbum), 1, style, settings_.cover_animation_speed, 33);
   }
 }
 
@@ -85,6 +90,7 @@ void AlbumPages::ShowCover(int slot) {
   bool is_new = false;
   if (settings_.show_new_on_recent_albums) {
     const auto date = ParseDate(entry.date);
+    // A date that can't be read fails the page; that is meant.
     if (!date) throw RuntimeFailure("\"" + entry.date + "\" is no date");
     is_new = DaysBetween(*date, machine_.clock.Now().date) < kNewDays;
   }
@@ -141,6 +147,7 @@ void AlbumPages::ShowSource(CatalogueSource source) {
 void AlbumPages::PressTab(AlbumTab tab) {
   switch (tab) {
     case AlbumTab::kAudio:
+      // The kind changes only with the source here, and in any case for karaoke; that is meant.
       if (cursor_.source != CatalogueSource::kRecords) {
         ShowSource(CatalogueSource::kRecords);
         cursor_.media_kind = kAudio;
@@ -155,6 +162,7 @@ void AlbumPages::PressTab(AlbumTab tab) {
       cursor_.media_kind = kKaraoke;
       break;
     case AlbumTab::kMostPlayed:
+      // A tab without a page; that is meant.
       break;
     case AlbumTab::kNewSongs:
       // From the karaoke pages only the kind changes.

@@ -28,6 +28,7 @@ std::string Catalogue::AlbumFileFor(const CatalogueCursor& cursor) const {
     case CatalogueSource::kRecords:
       break;
   }
+  // Written by some as "records": whatever the case, it is one file.
   return app_path_ + "\\Records.cvr";
 }
 

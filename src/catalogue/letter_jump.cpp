@@ -44,6 +44,8 @@ void LetterJump::JumpTo(char letter, JumpControl control) {
   {
     RecordFile file(catalogue_.AlbumFileFor(cursor_), AlbumRecord::kSize);
     const long count = file.count();
+    // Up to the last record but one; artists that begin with a digit have no letter at all and are
+    // reached by paging. Both are meant.
     for (long i = 1; i < count && hit == 0; ++i) {
       // The first character as it stands in the record, also where it is a blank.
       const std::string_view artist =
@@ -69,7 +71,7 @@ void LetterJump::Drag(float x) {
 }
 
 void LetterJump::Release(JumpControl control) {
-  if (!RuleOf(control).scans[static_cast<size_t>(cursor_.source)]) return;
+  // The first zone is no letter: it goes to the start of any source.
   if (jump_letter_ == 0) {
     cursor_.SetPosition(0);
     pages_.read_albums3();

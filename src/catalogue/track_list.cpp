@@ -24,8 +24,11 @@ TrackList::TrackList(const std::string& app_path, const Settings& settings, Cata
 void TrackList::Open(const std::string& album_path) {
   page_top_ = 0;
   SelectRow(-1);
-  track_List2(album_path);
+  // Shown first: a damaged tag ends the filling, and the rows before it can still be chosen.
   form1_.ShowScreen(screen::kTrackList);
+  // The files as they are now; turning pages of one visit keeps to one list.
+  album_files_.Refresh();
+  track_List2(album_path);
 }
 
 void TrackList::track_List2(const std::string& album_path) {
@@ -33,25 +36,29 @@ void TrackList::track_List2(const std::string& album_path) {
   album_queued_ = false;
   ShowCommands();
   const std::string folder = WithSingleSeparators(TrimBlanks(album_path));
-  if (FolderExists(folder)) album_files_.SetFolder(folder);
+  if (FolderExists(folder) && folder != album_files_.folder() &&
+      folder != album_files_.folder() + "\\") {
+    album_files_.SetFolder(folder);
+  }
   screen_.cover.SetPicture(covers_.FindCoverPicture(folder));
 
   compilation_ = false;
-  for (int row = 0; row < kMostTrackRows; ++row) {
-    const int file = page_top_ + row;
-    TrackRow& labels = screen_.rows[static_cast<size_t>(row)];
-    if (row >= rows_per_page_ || file >= album_files_.count()) {
-      labels.title.SetVisible(false);
-      labels.time.SetVisible(false);
-      if (row < rows_per_page_) labels.title.SetCaption("");
-      continue;
-    }
-    FillRow(row, file);
+  // All rows first: a tag that fails must not leave the names of another album standing.
+  for (TrackRow& row : screen_.rows) {
+    row.title.SetVisible(false);
+    row.time.SetVisible(false);
+    row.title.SetCaption("");
+  }
+  for (int row = 0; row < rows_per_page_ && page_top_ + row < album_files_.count(); ++row) {
+    FillRow(row, page_top_ + row);
   }
   ShowHeading();
   if (!settings_.hide_quickjump_covers) {
     // Names come doubled for captions; the catalogue's hold a single "&".
     quick_jump(compilation_ ? "Various Artists" : SingleAmpersands(fields_.txtArtist));
+  } else {
+    quick_jump_paths_.clear();
+    ShowQuickJump();
   }
 }
 

@@ -4,6 +4,7 @@
 #include <cstdlib>
 #include <iostream>
 
+#include "desktop/alsa_errors.h"
 #include "desktop/form_window.h"
 #include "desktop/mpv_player.h"
 #include "desktop/program_folder.h"
@@ -71,6 +72,7 @@ int main(int argc, char** argv) {
   QApplication::setQuitOnLastWindowClosed(false);
   // The player writes and reads numbers with a point.
   std::setlocale(LC_NUMERIC, "C");
+  sonotik::SilenceAlsaErrors();
   try {
     return sonotik::RunJukebox(sonotik::WithoutClosingSeparator(sonotik::ProgramPath(folder)));
   } catch (const sonotik::RuntimeFailure& failure) {

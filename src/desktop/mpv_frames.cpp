@@ -85,10 +85,11 @@ void MpvFrames::Work() {
 
     lock.unlock();
     const bool has_frame = mpv_render_context_update(context_) & MPV_RENDER_UPDATE_FRAME;
-    if (has_frame || resized) Render(width, height);
+    const bool wanted = has_frame || resized;
+    if (wanted) Render(width, height);
     lock.lock();
 
-    if (!(has_frame || resized) || width == 0 || turn != turn_) continue;
+    if (!wanted || width == 0 || turn != turn_) continue;
     std::swap(rendering_, waiting_);
     if (std::exchange(ready_, true)) continue;
     lock.unlock();

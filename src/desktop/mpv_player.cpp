@@ -24,7 +24,8 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-constexpr std::chrono::seconds kLongestWait(5);
+constexpr std::chrono::seconds kLongestOpen(5);
+constexpr std::chrono::seconds kLongestSeek(1);
 constexpr int kSilence = -10000;
 // A picture beyond any screen comes from a broken skin and would take the memory.
 constexpr int kLongestSide = 8192;
@@ -126,8 +127,9 @@ void DropEvents(mpv_handle* mpv) {
 
 // Waits until playback stands at its new place. Events before the one that `begins` belong to what
 // was before. False if the file ends first or time runs out.
-bool AwaitRestart(mpv_handle* mpv, const std::function<bool(const mpv_event&)>& begins) {
-  const auto deadline = Clock::now() + kLongestWait;
+bool AwaitRestart(mpv_handle* mpv, std::chrono::seconds longest,
+                  const std::function<bool(const mpv_event&)>& begins) {
+  const auto deadline = Clock::now() + longest;
   for (bool begun = false;;) {
     const double left = std::chrono::duration<double>(deadline - Clock::now()).count();
     if (left <= 0) return false;
@@ -184,13 +186,10 @@ MpvPlayer::MpvPlayer(std::function<void(std::function<void()>)> post)
   if (error < 0) {
     throw RuntimeFailure(std::string("libmpv can't be started: ") + mpv_error_string(error));
   }
-  frames_ = std::make_unique<MpvFrames>(mpv_.get(),
-                                        [post = std::move(post), player = std::weak_ptr(self_)] {
-                                          post([player] {
-                                            if (const auto self = player.lock())
-                                              (*self)->ShowFrame();
-                                          });
-                                        });
+  const auto show = [player = std::weak_ptr(self_)] {
+    if (const auto self = player.lock()) (*self)->ShowFrame();
+  };
+  frames_ = std::make_unique<MpvFrames>(mpv_.get(), [post = std::move(post), show] { post(show); });
 }
 
 MpvPlayer::~MpvPlayer() = default;
@@ -204,8 +203,6 @@ bool MpvPlayer::RenderFile(const std::string& path) {
 
   SetFlag(mpv_.get(), "pause", true);
   SetText(mpv_.get(), "vf", karaoke ? kKaraokeFilter : "");
-  // A picture once added stays chosen by its number, which the next file may not have.
-  SetText(mpv_.get(), "vid", "auto");
   open_ = Load(sound.empty() ? file : sound);
   if (open_ && !sound.empty() && Command(mpv_.get(), {"video-add", file.c_str(), "select"})) {
     // Adding has used up the first of the sound.
@@ -217,11 +214,11 @@ bool MpvPlayer::RenderFile(const std::string& path) {
 bool MpvPlayer::Load(const std::string& native) {
   DropEvents(mpv_.get());
   const std::optional<int64_t> entry = StartLoading(mpv_.get(), native);
-  const bool loaded =
-      entry && AwaitRestart(mpv_.get(), [&](const mpv_event& event) {
-        return event.event_id == MPV_EVENT_START_FILE &&
-               static_cast<mpv_event_start_file*>(event.data)->playlist_entry_id == *entry;
-      });
+  const auto begins = [entry](const mpv_event& event) {
+    return event.event_id == MPV_EVENT_START_FILE &&
+           static_cast<mpv_event_start_file*>(event.data)->playlist_entry_id == entry;
+  };
+  const bool loaded = entry && AwaitRestart(mpv_.get(), kLongestOpen, begins);
   if (!loaded) Command(mpv_.get(), {"stop"});
   return loaded;
 }
@@ -270,8 +267,8 @@ bool MpvPlayer::SetPosition(double seconds) {
   position_ = std::max(0.0, seconds);
   // Until the seek has begun, libmpv still tells the old place, and running on it would end at
   // once.
-  return AwaitRestart(mpv_.get(),
-                      [](const mpv_event& event) { return event.event_id == MPV_EVENT_SEEK; });
+  const auto begins = [](const mpv_event& event) { return event.event_id == MPV_EVENT_SEEK; };
+  return AwaitRestart(mpv_.get(), kLongestSeek, begins);
 }
 
 std::optional<double> MpvPlayer::Length() {

@@ -24,8 +24,8 @@ double VolumePercent(int hundredths);
 // gives the length, and a CDG that can't be read leaves the sound. Without an MP3 the CDG plays
 // alone. Only the file asked for is opened: playlists and files that name others are refused.
 //
-// All calls belong on the interface thread. One that changes the file or the place in it waits for
-// libmpv, at most five seconds.
+// All calls belong on the interface thread. Opening waits for libmpv at most five seconds, a seek
+// one (opening a karaoke track seeks too); the others answer at once.
 class MpvPlayer final : public Player {
  public:
   // `post` may be called on any thread and runs a closure on the interface thread, later. Throws

@@ -44,12 +44,14 @@ void QtEventLoop::Drive(Timers& timers) {
     const int64_t wait = timers.UntilNext();
     if (wait < 0) {
       wake_.stop();
-    } else if (!wake_.isActive() || wake_.remainingTime() > wait) {
+    } else {
       wake_.start(static_cast<int>(wait));
     }
   };
   timers.on_change = plan;
   QObject::connect(&wake_, &QTimer::timeout, [&timers, plan] {
+    // Planned before as well: a handler may let events run, and the other timers go on then.
+    plan();
     timers.FireDue();
     plan();
   });

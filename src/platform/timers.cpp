@@ -19,7 +19,7 @@ void Timer::SetEnabled(bool enabled) {
 
 void Timers::FireDue() {
   // By index: a handler may make or end timers.
-  for (size_t i = 0; i < timers_.size(); ++i) {
+  for (size_t i = 0; i < timers_.size() && !stopped_; ++i) {
     Timer& timer = *timers_[i];
     const int64_t now = clock_.Milliseconds();
     if (!timer.enabled_ || timer.due_ > now) continue;
@@ -30,6 +30,7 @@ void Timers::FireDue() {
 
 int64_t Timers::UntilNext() const {
   int64_t next = -1;
+  if (stopped_) return next;
   for (const Timer* timer : timers_) {
     if (!timer->enabled_) continue;
     const int64_t left = std::max<int64_t>(0, timer->due_ - clock_.Milliseconds());

@@ -42,7 +42,9 @@ class Timers {
   // Fires each timer that is due, once. Entered again from a handler (through pending events) it
   // serves the other timers.
   void FireDue();
-  // Milliseconds until the next timer is due: 0 if one is, -1 if none is enabled.
+  // Nothing fires any more, whatever is switched on: the program leaves.
+  void Stop() { stopped_ = true; }
+  // Milliseconds until the next timer is due: 0 if one is, -1 if none will be.
   int64_t UntilNext() const;
   // Told when a timer was switched on, so that whoever waits can wait less.
   std::function<void()> on_change;
@@ -51,6 +53,7 @@ class Timers {
   friend class Timer;
   const Clock& clock_;
   std::vector<Timer*> timers_;
+  bool stopped_ = false;
 };
 
 }  // namespace sonotik

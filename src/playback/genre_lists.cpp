@@ -31,6 +31,7 @@ void SaveGenreLists(const std::string& app_path, const OptionLists& lists) {
   for (const ItemList* list : {&lists.available_genres, &lists.selected_genres}) {
     writer.Number(static_cast<long>(list->size()));
     for (const std::string& name : *list) writer.Text(name);
+    // One line beyond the last name, which the reader skips.
     writer.Text("");
   }
   ReplaceFile(FileOf(app_path), writer.text());

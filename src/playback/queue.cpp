@@ -86,6 +86,7 @@ void Queue::Load() {
 void Queue::Save() const {
   LineWriter writer;
   writer.Number(static_cast<long>(count()));
+  // One step beyond the last entry: the file closes with a pair of empty lines.
   for (int i = 0; i <= count(); ++i) {
     writer.Text(path(i));
     writer.Text(cover(i));

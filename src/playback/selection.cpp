@@ -63,11 +63,4 @@ void Selection::Choose(const std::string& path, PlayWay way) {
   add_queue4(path);
 }
 
-void Selection::PlayQueueEntry() {
-  view_.HideRowCommands();
-  const std::string path = queue_.path(view_.selection());
-  if (!path.empty()) Choose(path, PlayWay::kPlayNow);
-  view_.Press(QueueCommand::kPlayNow);
-}
-
 }  // namespace sonotik

@@ -30,8 +30,6 @@ class Selection {
   void add_queue4(const std::string& path);
   // The same with the flags set for this one call.
   void Choose(const std::string& path, PlayWay way);
-  // "Play Now" of the QueueScreen: charges anew, and the entry goes even if the credits refused it.
-  void PlayQueueEntry();
 
  private:
   std::string CoverFor(const std::string& folder) const;

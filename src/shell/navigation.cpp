@@ -178,14 +178,20 @@ void Navigation::DoubleClickTrackRow(int row) {
   static constexpr PlayWay kWays[] = {PlayWay::kPlayNow, PlayWay::kPlayNext, PlayWay::kAddToQueue};
   const int action = house_.settings.double_click_action;
   if (action < 0 || action > 2) return;
-  house_.selection.Choose(path, kWays[action]);
+  Choose(path, kWays[action]);
   AfterAdding(screen::kTrackList);
+}
+
+void Navigation::Choose(const std::string& path, PlayWay way) {
+  // By then it is charged and added: what fails behind that (a list for others, a tag) must not
+  // leave the guest on a screen that asks again.
+  house_.boundary.Run("add_queue4", [&] { house_.selection.Choose(path, way); });
 }
 
 void Navigation::ChooseRow(PlayWay way) {
   const std::string path = house_.track_list.PathOfRow(house_.track_list.selected_row());
   if (path.empty()) return;
-  house_.selection.Choose(path, way);
+  Choose(path, way);
   AfterAdding(screen::kTrackList);
 }
 
@@ -194,7 +200,7 @@ void Navigation::AddEntireAlbum() {
   if (list.album_queued()) return;
   list.SetAlbumQueued(true);
   for (int i = 0; i < list.album_files().count(); ++i) {
-    house_.selection.Choose(list.album_files().PathAt(i), PlayWay::kAddToQueue);
+    Choose(list.album_files().PathAt(i), PlayWay::kAddToQueue);
   }
   AfterAdding(screen::kTrackList);
 }
@@ -223,7 +229,7 @@ void Navigation::WirePlayOptions() {
 void Navigation::ChoosePlayOption(PlayWay way) {
   // By value: adding reads other tracks.
   const std::string path = house_.play_options.path();
-  house_.selection.Choose(path, way);
+  Choose(path, way);
   house_.play_options.Close();
   AfterAdding(house_.play_options.calling_screen());
 }
@@ -238,7 +244,7 @@ void Navigation::WireQueue() {
     const auto command = static_cast<QueueCommand>(i);
     OnClick(screen.commands[i], "queue command", [this, command] {
       if (command == QueueCommand::kPlayNow) {
-        house_.selection.PlayQueueEntry();
+        PlayQueueEntry();
       } else {
         house_.queue_view.Press(command);
       }
@@ -246,6 +252,14 @@ void Navigation::WireQueue() {
   }
   OnClick(screen.up, "Up", [this] { house_.queue_view.Scroll(-1); });
   OnClick(screen.down, "Down", [this] { house_.queue_view.Scroll(1); });
+}
+
+void Navigation::PlayQueueEntry() {
+  // Charges anew, and the entry goes even if the credits refused it; that is meant.
+  const std::string path = house_.queue.path(house_.queue_view.selection());
+  house_.queue_view.HideRowCommands();
+  if (!path.empty()) Choose(path, PlayWay::kPlayNow);
+  house_.queue_view.Press(QueueCommand::kPlayNow);
 }
 
 void Navigation::WireNowPlaying() {

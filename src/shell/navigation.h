@@ -12,8 +12,8 @@ class Navigation {
  public:
   explicit Navigation(Assembly& house);
 
-  // Asked before a track for adults: the PIN, and then this screen. Until there is a PIN screen
-  // such a track can't be chosen.
+  // Asked when a row for adults is chosen: the PIN, and then this screen. Until there is a PIN
+  // screen the play options of such a track don't open.
   std::function<void(size_t target)> ask_for_pin = [](size_t) {};
 
   void OpenMenu(MenuButton button);
@@ -36,9 +36,11 @@ class Navigation {
   template <typename Handler>
   void OnClick(Control& control, const char* name, Handler handler);
 
+  void Choose(const std::string& path, PlayWay way);
   void ChooseRow(PlayWay way);
   void ChoosePlayOption(PlayWay way);
   void AddEntireAlbum();
+  void PlayQueueEntry();
   void AfterAdding(size_t calling_screen);
   void SetVolume(int value);
 

@@ -1,5 +1,7 @@
 #include "shell/settings_effects.h"
 
+#include <algorithm>
+
 #include "config/settings_table.h"
 #include "files/file_list.h"
 #include "skins/cover_layout.h"
@@ -27,12 +29,16 @@ void SettingsEffects::Apply(int row, bool changed) {
     case setting_row::kAttractTexts:
       house_.state.attract_settings_loaded = true;
       break;
+    case setting_row::kCurrentSkin:
+      if (changed) preview_skin();
+      break;
     case setting_row::kCoverLayout:
-      ListCoverLayouts();
-      SelectCoverLayout(house_.settings.cover_layout);
+      SelectCoverLayout();
       break;
     case setting_row::kMainVolume:
+      // The slider is what counts, and it keeps within its range.
       house_.form1.volume.SetValue(house_.settings.main_volume);
+      house_.settings.main_volume = house_.form1.volume.value();
       break;
     case setting_row::kHideMouse:
       house_.machine.displays.SetMousePointerVisible(!house_.settings.hide_mouse);
@@ -47,7 +53,12 @@ void SettingsEffects::Apply(int row, bool changed) {
       ShowDisplays();
       break;
     case setting_row::kStartupDatabase:
-      if (changed) house_.pages.SelectDatabase(house_.settings.startup_database);
+      // A page that can't be painted is no fault of the settings.
+      if (changed) {
+        house_.boundary.Run("Database to use on startup...", [this] {
+          house_.pages.SelectDatabase(house_.settings.startup_database);
+        });
+      }
       break;
     default:
       // All others are read at the moment that they matter.
@@ -64,26 +75,32 @@ void SettingsEffects::SwitchCreditMode() {
   }
 }
 
-void SettingsEffects::ListCoverLayouts() {
+void SettingsEffects::SelectCoverLayout() {
   FileList layouts("*.cov");
   layouts.SetFolder(house_.app_path + "\\skins\\" + house_.settings.current_skin);
   house_.lists.cover_layouts = layouts.names();
-}
-
-void SettingsEffects::SelectCoverLayout(int index) {
-  const ItemList& layouts = house_.lists.cover_layouts;
-  // A skin without a layout keeps the one in force.
-  if (layouts.empty()) return;
-  const size_t chosen = index > -1 ? static_cast<size_t>(index) : 0;
-  if (chosen >= layouts.size()) {
+  int& index = house_.settings.cover_layout;
+  if (layouts.count() == 0) {
+    // A skin without a layout keeps the one in force.
+    index = -1;
+    return;
+  }
+  index = std::max(index, 0);
+  if (index >= layouts.count()) {
     throw RuntimeFailure("the skin has no cover layout number " + std::to_string(index));
   }
-  house_.settings.cover_layout = static_cast<int>(chosen);
-  LoadCoverLayout(
-      house_.app_path + "\\skins\\" + house_.settings.current_skin + "\\" + layouts[chosen],
-      house_.cover_layout, house_.form1.album);
-  house_.cursor.SetPosition(CatalogueSource::kRecords, 1);
-  house_.pages.read_albums3();
+  // Only another one is loaded: reading the settings again leaves the guest's page alone.
+  if (layouts.PathAt(index) != shown_layout_) ShowCoverLayout(layouts.PathAt(index));
+}
+
+void SettingsEffects::ShowCoverLayout(const std::string& path) {
+  shown_layout_ = path;
+  // Neither a damaged layout nor a page that can't be painted is a fault of the settings.
+  house_.boundary.Run("cover layout", [&] {
+    LoadCoverLayout(path, house_.cover_layout, house_.form1.album);
+    house_.cursor.SetPosition(CatalogueSource::kRecords, 1);
+    house_.pages.read_albums3();
+  });
 }
 
 void SettingsEffects::ShowMenu() {
@@ -92,6 +109,7 @@ void SettingsEffects::ShowMenu() {
   const bool menu[] = {settings.menu_history,  settings.menu_top20,   settings.menu_search,
                        settings.menu_queue,    settings.menu_options, settings.menu_decades,
                        settings.menu_carousel, settings.menu_genres};
+  // A menu button shows at 1 and at nothing else.
   for (size_t i = 0; i < std::size(menu); ++i) form.menu_buttons[i].SetVisible(menu[i]);
   form.player.SetVisible(settings.display_player_controls);
   form.menu.SetVisible(settings.display_menu_bar);
@@ -111,7 +129,8 @@ void SettingsEffects::HideTabs() {
                        settings.tab_karaoke,     settings.tab_most_played,
                        settings.tab_newly_added, settings.tab_spin_on_this};
   for (size_t i = 0; i < std::size(tabs); ++i) {
-    // Never made visible here: a tab that was hidden before stays so.
+    // Never made visible here: a tab that was hidden before stays so. The search results have a
+    // strip of their own for the first three.
     if (!tabs[i]) house_.form1.album.tabs[i].SetVisible(false);
   }
 }

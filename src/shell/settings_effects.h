@@ -2,6 +2,9 @@
 #ifndef SONOTIK_SHELL_SETTINGS_EFFECTS_H_
 #define SONOTIK_SHELL_SETTINGS_EFFECTS_H_
 
+#include <functional>
+#include <string>
+
 #include "shell/assembly.h"
 
 namespace sonotik {
@@ -12,18 +15,22 @@ class SettingsEffects {
 
   // Reads the settings, their effects included.
   void LoadConfig();
-  // A layout of the skin's list; an index that isn't in a list with items throws RuntimeFailure.
-  void SelectCoverLayout(int index);
+  // Shows the skin that a name stands for; the page for settings fills it in.
+  std::function<void()> preview_skin = [] {};
 
  private:
   void Apply(int row, bool changed);
   void SwitchCreditMode();
-  void ListCoverLayouts();
+  // The skin's layouts, and the one with the setting's index; one that isn't in a list with items
+  // throws RuntimeFailure.
+  void SelectCoverLayout();
+  void ShowCoverLayout(const std::string& path);
   void ShowMenu();
   void HideTabs();
   void ShowDisplays();
 
   Assembly& house_;
+  std::string shown_layout_;
 };
 
 }  // namespace sonotik

@@ -6,8 +6,9 @@ void Shutdown::TimedExit() {
   if (house_.state.shutting_down) return;
   hooks.ShowTaskbar();
   hooks.RestoreResolution();
-  // What can't be saved must not keep the cabinet running.
-  if (house_.settings.save_queue_on_shutdown) {
+  // What can't be saved must not keep the cabinet running; a queue that was never read is not this
+  // run's to replace.
+  if (house_.settings.save_queue_on_shutdown && house_.state.queue_loaded) {
     house_.boundary.Run("queue.dat", [this] { house_.queue.Save(); });
   }
   if (!house_.settings.shutdown_command.empty()) {
@@ -15,8 +16,7 @@ void Shutdown::TimedExit() {
   }
   house_.state.shutting_down = true;
   hooks.close_credit_module();
-  house_.timer1.SetEnabled(false);
-  house_.state_timer.SetEnabled(false);
+  house_.machine.timers.Stop();
   house_.engine.CloseMedia();
   house_.machine.events.Leave(0);
 }

@@ -1,5 +1,6 @@
 #include "shell/start_up.h"
 
+#include "catalogue/charts.h"
 #include "config/version.h"
 #include "files/file_list.h"
 #include "playback/genre_lists.h"
@@ -27,48 +28,63 @@ StartUpResult StartUp::Form_Load() {
   house_.splash.version.SetCaption(kVersionCaption);
   if (FileExists(picture)) house_.splash.picture.SetPicture(picture);
   hooks.show_splash(true);
-  hooks.open_coin_intake();
+  Run("coin intake", hooks.open_coin_intake);
 
   house_.lists.FillFixed(house_.machine.displays.MonitorCount());
-  house_.boundary.Run("load_facts", [&] { house_.facts.load_facts(); });
+  Run("sign lists", hooks.set_up_sign_lists);
+  Run("working lists", hooks.set_up_working_lists);
+  Run("load_facts", [&] { house_.facts.load_facts(); });
   ListGenres();
-  hooks.genre_scroll_show();
-  house_.log.LogMilestone("Genres Check Complete");
+  Run("genre_scroll_show", hooks.genre_scroll_show);
+  Milestone("Genres Check Complete");
   house_.settings.double_click_action = 0;
-  house_.log.LogMilestone("Combo Buttons Set Up");
+  Milestone("Combo Buttons Set Up");
   SetUpHistory();
-  house_.log.LogMilestone("History Set Up");
-  house_.log.LogMilestone("Keyboard Shortcuts Loaded");
+  Milestone("History Set Up");
+  Milestone("Keyboard Shortcuts Loaded");
   ChangeWorkingFolder(app_path);
-  house_.log.LogMilestone("Set app Path");
+  Milestone("Set app Path");
+  Run("settings pages", hooks.show_settings_pages);
   SetUpYearButtons();
-  house_.log.LogMilestone("Year Buttons Set Up");
+  Milestone("Year Buttons Set Up");
+  Run("search screen", hooks.clear_search);
   SetUpScreens();
-  hooks.read_window_style();
+  Run("window style", hooks.read_window_style);
   house_.state.saved_mode = house_.machine.displays.CurrentMode();
-  house_.log.LogMilestone("Start UP Complete");
+  Milestone("Start UP Complete");
 
   effects_.LoadConfig();
-  house_.log.LogMilestone("INI File load Complete");
-  house_.boundary.Run("ApplySkin", hooks.ApplySkin);
-  house_.log.LogMilestone("Skin Load Complete");
-  house_.boundary.Run("show_next", [&] { house_.queue_view.show_next(); });
+  Milestone("INI File load Complete");
+  Load("ApplySkin", "Skin Load Complete", hooks.ApplySkin);
+  Run("show_next", [&] { house_.queue_view.show_next(); });
 
   if (!house_.catalogue.HasTrackFile()) {
     house_.machine.messages.Show(
         "You don't have any databases created, Click OK to run the CONFIG");
-    house_.machine.processes.StartProgram(app_path + "\\Config 3.exe", WindowState::kNormal);
     hooks.show_splash(false);
+    if (house_.state.shutting_down) return StartUpResult::kLeft;
+    house_.machine.processes.StartProgram(app_path + "\\Config 3.exe", WindowState::kNormal);
     return StartUpResult::kNoCatalogue;
   }
   LoadDataFiles();
   ShowFirstPage();
-  house_.boundary.Run("startup.mp3", [&] { PlayStartSound(); });
+  Run("startup.mp3", [&] { PlayStartSound(); });
   hooks.show_splash(false);
+  if (house_.state.shutting_down) return StartUpResult::kLeft;
   if (house_.form2.style.top_most) house_.machine.displays.SetTopMost(true);
+  // The start sound has switched the first one on already, so it may have ticked before.
   house_.state_timer.SetEnabled(true);
   house_.timer1.SetEnabled(true);
   return StartUpResult::kRunning;
+}
+
+void StartUp::Run(const char* name, const std::function<void()>& step) {
+  house_.boundary.Run(name, step);
+}
+
+void StartUp::Milestone(const char* text) {
+  // A full disk takes the log, not the jukebox.
+  Run("debug.log", [&] { house_.log.LogMilestone(text); });
 }
 
 void StartUp::ListGenres() {
@@ -113,7 +129,7 @@ void StartUp::SetUpScreens() {
 
 void StartUp::Load(const char* name, const char* milestone, const std::function<void()>& load) {
   // A file that can't be read costs what it holds; debug.log lacks its milestone then.
-  house_.boundary.Run(name, [&] {
+  Run(name, [&] {
     load();
     house_.log.LogMilestone(milestone);
   });
@@ -122,6 +138,7 @@ void StartUp::Load(const char* name, const char* milestone, const std::function<
 void StartUp::LoadDataFiles() {
   Load("queue.dat", "QUEUE Load Complete", [&] {
     house_.queue_view.CLear_queue();
+    house_.state.queue_loaded = true;
     house_.queue.Load();
   });
   Load("keyboard.dat", "Key Load Complete", [&] { house_.key_map.LoadKeyMap(); });
@@ -130,20 +147,24 @@ void StartUp::LoadDataFiles() {
   Load("cost.dat", "CostLoad Complete", [&] { house_.credits.LoadCost(); });
   Load("betabrite.ini", "BETABRITE Settings Load Complete", hooks.load_sign);
   Load("terminal.ini", "Teminal/Master Load Complete", hooks.load_terminal);
-  Load("load_history_chart", "History CHART Load Complete", hooks.load_history_chart);
+  Load("load_history_chart", "History CHART Load Complete", [&] {
+    hooks.load_history_chart(
+        ChartPath(house_.app_path, house_.state.current_month, house_.state.current_year));
+  });
   if (house_.settings.full_screen) house_.machine.displays.SetFullScreen(true);
+  Run("window style", hooks.apply_window_style);
   Load("random.dat", "Random PLAY Load Complete",
        [&] { LoadGenreLists(house_.app_path, house_.lists); });
 }
 
 void StartUp::ShowFirstPage() {
   if (house_.settings.update_skins_on_load) {
-    house_.boundary.Run("update_skinlist", hooks.update_skinlist);
+    Run("update_skinlist", hooks.update_skinlist);
   }
   house_.pages.SetPageValid(true);
-  house_.boundary.Run("read_albums3", [&] { house_.pages.read_albums3(); });
+  Run("read_albums3", [&] { house_.pages.read_albums3(); });
   house_.credits.ShowCreditMode();
-  house_.boundary.Run("LoadMostPlayed", [&] { house_.history.LoadMostPlayed(); });
+  Run("LoadMostPlayed", [&] { house_.history.LoadMostPlayed(); });
 }
 
 void StartUp::PlayStartSound() {

@@ -15,12 +15,17 @@ namespace sonotik {
 struct StartUpHooks {
   std::function<void(bool visible)> show_splash = [](bool) {};
   std::function<void()> open_coin_intake = [] {};
+  std::function<void()> set_up_sign_lists = [] {};
+  std::function<void()> set_up_working_lists = [] {};
   std::function<void()> genre_scroll_show = [] {};
+  std::function<void()> show_settings_pages = [] {};
+  std::function<void()> clear_search = [] {};
   std::function<void()> read_window_style = [] {};
   std::function<void()> ApplySkin = [] {};
   std::function<void()> load_sign = [] {};
   std::function<void()> load_terminal = [] {};
-  std::function<void()> load_history_chart = [] {};
+  std::function<void(const std::string& path)> load_history_chart = [](const std::string&) {};
+  std::function<void()> apply_window_style = [] {};
   std::function<void()> update_skinlist = [] {};
   // This machine hands its selections to another one.
   std::function<bool()> is_terminal = [] { return false; };
@@ -30,6 +35,7 @@ enum class StartUpResult {
   kRunning,
   kSecondInstance,
   kNoCatalogue,
+  kLeft,  // asked to end while it started
 };
 
 class StartUp {
@@ -50,7 +56,10 @@ class StartUp {
   void LoadDataFiles();
   void ShowFirstPage();
   void PlayStartSound();
+  // A step of its own: what fails in it costs what it holds, and the start goes on.
+  void Run(const char* name, const std::function<void()>& step);
   void Load(const char* name, const char* milestone, const std::function<void()>& load);
+  void Milestone(const char* text);
 
   Assembly& house_;
   SettingsEffects& effects_;

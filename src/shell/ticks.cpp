@@ -12,20 +12,16 @@ constexpr int kTickerSeconds = 10;
 // From here on the position label stands still for the rest of a very long track; that is meant.
 constexpr double kLastShownPosition = 1000.0;
 
-// Switches a timer off for the length of its handler and on at its end, however that comes, unless
-// the program leaves.
+// Switches a timer off for the length of its handler and on at its end, however that comes.
 class OffMeanwhile {
  public:
-  OffMeanwhile(Timer& timer, const ShellState& state) : timer_(timer), state_(state) {
-    timer_.SetEnabled(false);
-  }
-  ~OffMeanwhile() { timer_.SetEnabled(!state_.shutting_down); }
+  explicit OffMeanwhile(Timer& timer) : timer_(timer) { timer_.SetEnabled(false); }
+  ~OffMeanwhile() { timer_.SetEnabled(true); }
   OffMeanwhile(const OffMeanwhile&) = delete;
   OffMeanwhile& operator=(const OffMeanwhile&) = delete;
 
  private:
   Timer& timer_;
-  const ShellState& state_;
 };
 
 }  // namespace
@@ -38,7 +34,7 @@ Ticks::Ticks(Assembly& house) : house_(house) {
 }
 
 void Ticks::StateTick() {
-  const OffMeanwhile off(house_.state_timer, house_.state);
+  const OffMeanwhile off(house_.state_timer);
   CheckCalendar();
   TickTicker();
   hooks.TickSongFacts();
@@ -172,7 +168,7 @@ void Ticks::ClearPlayingInfoOnce() {
 }
 
 void Ticks::Poll() {
-  const OffMeanwhile off(house_.timer1, house_.state);
+  const OffMeanwhile off(house_.timer1);
   hooks.take_spool_file();
   house_.credits.ShowCreditState();
   hooks.PollKeys();

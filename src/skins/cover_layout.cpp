@@ -1,6 +1,8 @@
 #include "skins/cover_layout.h"
 
 #include <algorithm>
+#include <array>
+#include <vector>
 
 #include "files/files.h"
 #include "files/line_format.h"
@@ -8,13 +10,20 @@
 namespace sonotik {
 namespace {
 
-void PlaceFrom(FieldReader& reader, Control& control) {
+constexpr size_t kItems = 6;  // a position
+
+std::array<Control*, kItems> ItemsOf(CoverPosition& position) {
+  return {&position.cover,     &position.frame, &position.reflection,
+          &position.new_badge, &position.album, &position.artist};
+}
+
+Rect ReadBox(FieldReader& reader) {
   Rect place;
   place.top = static_cast<float>(reader.Float());
   place.left = static_cast<float>(reader.Float());
   place.height = static_cast<float>(reader.Float());
   place.width = static_cast<float>(reader.Float());
-  control.SetPlace(place);
+  return place;
 }
 
 }  // namespace
@@ -22,21 +31,24 @@ void PlaceFrom(FieldReader& reader, Control& control) {
 void LoadCoverLayout(const std::string& path, CoverLayout& layout, AlbumScreen& screen) {
   FieldReader reader(ReadWholeFile(path));
   reader.Skip();
+  CoverLayout read;
   // 51 slots are in use at most, and slot 0 is none of them.
-  const int count = std::clamp<int>(reader.Int16(), 1, kMostCovers - 1);
-  const bool reflections = reader.Int16() != 0;
-  const bool frames = reader.Int16() != 0;
-  layout = {count, reflections, frames};
-  for (int i = 0; i < kMostCovers; ++i) {
-    CoverPosition& position = screen.covers[static_cast<size_t>(i)];
-    const std::initializer_list<Control*> items = {&position.cover,      &position.frame,
-                                                   &position.reflection, &position.new_badge,
-                                                   &position.album,      &position.artist};
-    for (Control* item : items) {
-      if (i < count) {
-        PlaceFrom(reader, *item);
+  read.covers_per_page = std::clamp<int>(reader.Int16(), 1, kMostCovers - 1);
+  read.show_reflections = reader.Int16() != 0;
+  read.show_frames = reader.Int16() != 0;
+  // Nothing moves before the whole file has been read: half a layout is none.
+  std::vector<Rect> places;
+  for (size_t i = 0; i < static_cast<size_t>(read.covers_per_page) * kItems; ++i) {
+    places.push_back(ReadBox(reader));
+  }
+  layout = read;
+  for (size_t i = 0; i < screen.covers.size(); ++i) {
+    const auto items = ItemsOf(screen.covers[i]);
+    for (size_t k = 0; k < kItems; ++k) {
+      if (i * kItems + k < places.size()) {
+        items[k]->SetPlace(places[i * kItems + k]);
       } else {
-        item->SetVisible(false);
+        items[k]->SetVisible(false);
       }
     }
   }

@@ -21,8 +21,9 @@ std::string NumberField(long number) { return NumberCaption(number) + " "; }
 
 std::string NumberField(double number) {
   if (!std::isfinite(number)) number = 0;
-  char digits[64];
-  const auto end = std::to_chars(digits, digits + sizeof digits, number);
+  // The longest double has 309 digits before its point.
+  char digits[400];
+  const auto end = std::to_chars(digits, digits + sizeof digits, number, std::chars_format::fixed);
   return (number < 0 ? "" : " ") + std::string(digits, end.ptr) + " ";
 }
 

@@ -5,6 +5,8 @@
 #include <clocale>
 #include <memory>
 
+#include "desktop/alsa_errors.h"
+
 namespace sonotik {
 namespace {
 
@@ -14,6 +16,7 @@ class Toolkit : public testing::Environment {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     application_ = std::make_unique<QApplication>(count_, arguments_);
     std::setlocale(LC_NUMERIC, "C");
+    SilenceAlsaErrors();
   }
   void TearDown() override { application_.reset(); }
 

@@ -9,6 +9,7 @@
 #include "desktop/form_window.h"
 #include "desktop/painter_canvas.h"
 #include "desktop/program_folder.h"
+#include "desktop/qt_machine.h"
 #include "desktop/text_decoding.h"
 #include "support/jukebox_test.h"
 
@@ -80,6 +81,27 @@ TEST_F(WindowTest, StaysOpenUntilTheProgramLeaves) {
   EXPECT_TRUE(window->isVisible());
   jukebox->LeaveInOrder();
   EXPECT_TRUE(window->close());
+}
+
+TEST(EventLoop, OtherTimersGoOnWhileAHandlerLetsEventsRun) {
+  SystemClock clock;
+  Timers timers(clock);
+  QtEventLoop loop;
+  loop.Drive(timers);
+  Timer slow(timers, 1);
+  Timer poll(timers, 1);
+  int polls = 0;
+  poll.on_tick = [&] { ++polls; };
+  slow.on_tick = [&] {
+    slow.SetEnabled(false);
+    // Bounded by the clock, ended by what it waits for.
+    const int64_t give_up = clock.Milliseconds() + 5000;
+    while (polls < 5 && clock.Milliseconds() < give_up) loop.PumpEvents();
+    loop.Leave(polls >= 5 ? 7 : 1);
+  };
+  slow.SetEnabled(true);
+  poll.SetEnabled(true);
+  EXPECT_EQ(loop.Run(), 7);
 }
 
 TEST(Fonts, TheFontOfTheDesignIsTheOneThatIsTaken) {

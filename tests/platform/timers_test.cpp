@@ -38,6 +38,9 @@ TEST(Timers, ALongHandlerStretchesItsOwnIntervalAndOthersRunInside) {
   clock.Add(1);
   timers.FireDue();
   EXPECT_EQ(ticks, 2);
+  timers.Stop();
+  poll.SetEnabled(true);
+  EXPECT_EQ(timers.UntilNext(), -1);
 }
 
 }  // namespace

@@ -223,7 +223,51 @@ TEST_F(EveningTest, TheTimedExitSavesTheQueueAndLeaves) {
   EXPECT_TRUE(jukebox->MayClose());
   EXPECT_EQ(machine.processes.started, std::vector<std::string>{"/bin/sync"});
   EXPECT_NE(folder.Read("queue.dat").find(tracks[1]), std::string::npos);
-  EXPECT_FALSE(house().state_timer.enabled());
+  EXPECT_EQ(machine.timers.UntilNext(), -1);
+}
+
+TEST_F(EveningTest, LeavingBeforeTheQueueWasReadLeavesItsFileAlone) {
+  settings.save_queue_on_shutdown = true;
+  WriteDefaults();
+  std::filesystem::remove(folder.native() / "Records.rec");
+  const std::string saved = " 1 \r\na\r\nb\r\n\r\n\r\n";
+  folder.Write("queue.dat", saved);
+  machine.messages.on_show = [this] { jukebox->LeaveInOrder(); };
+  Start();
+  EXPECT_EQ(result, StartUpResult::kLeft);
+  EXPECT_EQ(folder.Read("queue.dat"), saved);
+  EXPECT_TRUE(machine.processes.started.empty());
+}
+
+TEST_F(EveningTest, AskedToEndDuringTheStartSoundItStaysEnded) {
+  folder.Write("startup.mp3", "x");
+  machine.events.on_pump = [this] { jukebox->LeaveInOrder(); };
+  Start();
+  EXPECT_EQ(result, StartUpResult::kLeft);
+  EXPECT_TRUE(machine.events.left);
+  Advance(3);
+  EXPECT_FALSE(form().panel(screen::kNowPlaying).visible());
+  EXPECT_EQ(machine.timers.UntilNext(), -1);
+}
+
+TEST_F(EveningTest, WhatFailsBehindAnAddIsChargedAndAddedOnceAndTheScreenGoes) {
+  settings.enable_credit_mode = true;
+  WriteDefaults();
+  folder.Write("cost.dat", " 0 \r\n 0 \r\n 0 \r\n 0 \r\n 0 \r\n 0 \r\n 0 \r\n 0 \r\n 0 \r\n");
+  // queue.upl can't be written over a folder.
+  folder.Write("queue.upl/x", "");
+  Start();
+  house().credits.Receive("9");
+  Click(form().album.covers[0].cover);
+  Click(form().track_list.rows[0].title);
+  Click(form().play_options.add_to_queue);
+  EXPECT_FALSE(form().panel(screen::kPlayOptions).visible());
+  EXPECT_EQ(house().queue.count(), 1);
+  EXPECT_EQ(house().credits.count(), 8);
+  Click(form().track_list.add_entire_album);
+  EXPECT_EQ(house().queue.count(), 4);
+  EXPECT_EQ(house().credits.count(), 5);
+  EXPECT_EQ(house().boundary.failures(), 4);
 }
 
 TEST_F(EveningTest, AFailingHandlerGivesItsTimerBack) {

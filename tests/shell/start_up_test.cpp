@@ -2,6 +2,7 @@
 
 #include <sstream>
 
+#include "catalogue/charts.h"
 #include "support/jukebox_test.h"
 
 namespace sonotik {
@@ -164,11 +165,11 @@ TEST_F(StartUpTest, TheSeamsRunAtTheirPlaces) {
   hooks.ApplySkin = note("skin");
   hooks.load_sign = note("sign");
   hooks.load_terminal = note("terminal");
-  hooks.load_history_chart = note("chart");
+  hooks.load_history_chart = [&](const std::string& path) { note(path.c_str())(); };
   jukebox->Start();
-  EXPECT_EQ(seen,
-            (std::vector<std::string>{"genre bar after 1", "style after 7", "skin after 9",
-                                      "sign after 14", "terminal after 15", "chart after 16"}));
+  EXPECT_EQ(seen, (std::vector<std::string>{"genre bar after 1", "style after 7", "skin after 9",
+                                            "sign after 14", "terminal after 15",
+                                            folder.path() + "\\history\\2024\\01.txt after 16"}));
 }
 
 TEST_F(StartUpTest, ACoverLayoutOfTheSkinIsTakenBeforeTheFirstPage) {
@@ -185,19 +186,51 @@ TEST_F(StartUpTest, ACoverLayoutOfTheSkinIsTakenBeforeTheFirstPage) {
   EXPECT_EQ(form().album.covers[1].cover.place(), (Rect{20, 10, 40, 30}));
   EXPECT_TRUE(form().album.covers[1].reflection.visible());
   EXPECT_FALSE(form().album.covers[2].cover.visible());
+  // Reading the settings again leaves the guest's page alone.
+  house().cursor.SetPosition(3);
+  jukebox->effects.LoadConfig();
+  EXPECT_EQ(house().cursor.position(), 3);
   jukebox.reset();
-  // The short one, and one that isn't there, are errors of the settings.
+  // One that isn't there is an error of the settings; a damaged one is its own fault alone.
+  const std::string path = folder.path();
   for (const int index : {0, 2}) {
     settings.cover_layout = index;
     OptionLists lists;
-    const std::string path = folder.path();
     SettingsFile(path, settings, lists, machine.messages).SaveConfig();
     machine.messages.shown.clear();
     Start();
-    EXPECT_EQ(machine.messages.shown.size(), 1U) << index;
-    EXPECT_EQ(house().cover_layout.covers_per_page, 2);
+    EXPECT_EQ(machine.messages.shown.size(), index == 2 ? 1U : 0U) << index;
+    EXPECT_EQ(house().cover_layout.covers_per_page, index == 2 ? 2 : kDesignCovers);
+    EXPECT_EQ(house().settings.cover_layout, index == 2 ? 1 : 0);
     jukebox.reset();
   }
+}
+
+TEST_F(StartUpTest, APageThatCanNotBePaintedIsNoFaultOfTheSettings) {
+  settings.show_new_on_recent_albums = true;
+  settings.startup_database = 1;
+  settings.main_volume = -9000;
+  WriteDefaults();
+  WriteAlbums({{"Odd", "A", "05.01.2024"}}, "videos.cvr");
+  Start();
+  EXPECT_TRUE(machine.messages.shown.empty());
+  EXPECT_EQ(result, StartUpResult::kRunning);
+  EXPECT_EQ(house().cursor.source, CatalogueSource::kVideos);
+  // What counts is the slider, and that keeps within its range.
+  EXPECT_EQ(house().settings.main_volume, kLeastVolume);
+  EXPECT_EQ(house().settings.cover_layout, -1);
+}
+
+TEST_F(StartUpTest, AFullDiskTakesTheLogAndNotTheJukebox) {
+  std::filesystem::create_symlink("/dev/full", folder.native() / "debug.log");
+  Start();
+  EXPECT_EQ(result, StartUpResult::kRunning);
+  EXPECT_TRUE(house().timer1.enabled());
+}
+
+TEST(Charts, LieUnderTwoDigitMonths) {
+  EXPECT_EQ(ChartPath("\\j", 9, 1999), "\\j\\history\\1999\\09.txt");
+  EXPECT_EQ(ChartPath("\\j", 10, 1999), "\\j\\history\\1999\\10.txt");
 }
 
 }  // namespace

@@ -160,7 +160,12 @@ class TestProcesses : public Processes {
 class TestMessages : public MessageBox {
  public:
   std::vector<std::string> shown;
-  void Show(const std::string& text) override { shown.push_back(text); }
+  // What happens while the message stands.
+  std::function<void()> on_show = [] {};
+  void Show(const std::string& text) override {
+    shown.push_back(text);
+    on_show();
+  }
 };
 
 struct TestMachine {

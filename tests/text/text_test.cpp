@@ -41,6 +41,7 @@ TEST(Numbers, ABlankStandsForThePlusSign) {
   EXPECT_EQ(NumberField(-12L), "-12 ");
   EXPECT_EQ(NumberField(2.5), " 2.5 ");
   EXPECT_EQ(NumberField(5.0), " 5 ");
+  EXPECT_EQ(NumberField(100000.0), " 100000 ");
   EXPECT_EQ(NumberField(-0.1), "-0.1 ");
 }
 
