@@ -184,6 +184,22 @@ void AlbumPages::SelectDatabase(int index) {
   if (index == 2) PressTab(AlbumTab::kKaraoke);
 }
 
+void AlbumPages::SetHighlight(int position) {
+  const auto swap_colors = [&](int which, bool on) {
+    if (which < 0 || which >= kMostCovers) return;
+    CoverPosition& items = screen_.covers[static_cast<size_t>(which)];
+    for (Label* label : {&items.album, &items.artist}) {
+      const Color fore = label->fore_color();
+      label->SetForeColor(label->back_color());
+      label->SetBackColor(fore);
+      label->SetHighlighted(on);
+    }
+  };
+  swap_colors(highlight_, false);
+  highlight_ = position;
+  swap_colors(position, true);
+}
+
 const std::string& AlbumPages::FolderAt(int position) const {
   return slots_[static_cast<size_t>(position) + 1].folder;
 }

@@ -48,6 +48,10 @@ class AlbumPages {
   // nothing.
   void StepWithUndo(long pages, const std::function<void()>& paint);
 
+  // The cover that the keys have marked, -1 for none: the colours of its two labels are swapped.
+  int highlight() const { return highlight_; }
+  void SetHighlight(int position);
+
   bool page_valid() const { return page_valid_; }
   void SetPageValid(bool valid) { page_valid_ = valid; }
   // The folder of slot position + 1.
@@ -73,6 +77,7 @@ class AlbumPages {
   AlbumScreen& screen_;
   // One more than there are slots, so that the slot behind the last can be cleared.
   std::array<CoverSlot, kMostCovers + 1> slots_;
+  int highlight_ = -1;
   bool page_valid_ = false;
   bool paging_busy_ = false;
 };

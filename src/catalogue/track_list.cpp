@@ -183,7 +183,18 @@ void TrackList::SelectRow(int row) {
   mark(selected_row_, false);
   selected_row_ = row;
   mark(row, true);
-  if (row < 0) return;
+  if (row >= 0) ShowRowCommands();
+}
+
+void TrackList::ShowRowCommands() {
+  if (TrimBlanks(screen_.rows[static_cast<size_t>(selected_row_)].title.caption()).empty()) {
+    for (lvButtons_H* button :
+         {&screen_.play_now, &screen_.play_next, &screen_.add_to_queue, &screen_.add_entire_album,
+          &screen_.add_to_carousel, &screen_.burn_cd, &screen_.download}) {
+      button->SetVisible(false);
+    }
+    return;
+  }
   screen_.play_now.SetVisible(settings_.play_it_now);
   screen_.play_next.SetVisible(settings_.play_next);
   screen_.add_to_queue.SetVisible(settings_.add_to_queue);

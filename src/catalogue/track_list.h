@@ -49,6 +49,7 @@ class TrackList {
   std::string RowText(int number, const std::string& title) const;
   void ShowHeading();
   void ShowCommands();
+  void ShowRowCommands();
   void ShowQuickJump();
 
   const Settings& settings_;

@@ -1,16 +1,18 @@
 // The jukebox program.
 #include <QApplication>
+#include <QScreen>
 #include <clocale>
 #include <cstdlib>
 #include <iostream>
 
 #include "desktop/alsa_errors.h"
+#include "desktop/coin_box.h"
 #include "desktop/form_window.h"
 #include "desktop/mpv_player.h"
-#include "desktop/program_folder.h"
 #include "desktop/qt_machine.h"
 #include "desktop/signals.h"
 #include "files/paths.h"
+#include "files/program_folder.h"
 #include "files/runtime_failure.h"
 #include "shell/jukebox.h"
 
@@ -31,10 +33,11 @@ int RunJukebox(const std::string& app_path) {
   QtDisplays displays;
   QtProcesses processes;
   QtMessageBox messages;
+  CoinBox coins;
   MpvPlayer player([](std::function<void()> call) {
     QMetaObject::invokeMethod(qApp, std::move(call), Qt::QueuedConnection);
   });
-  Machine machine{clock, random, loop, timers, keys, player, displays, processes, messages};
+  Machine machine{clock, random, loop, timers, keys, player, displays, processes, messages, coins};
   PictureCache pictures;
   Jukebox jukebox(app_path, machine);
   Form1& form1 = jukebox.house.form1;
@@ -48,6 +51,7 @@ int RunJukebox(const std::string& app_path) {
   window.may_close = [&jukebox] { return jukebox.MayClose(); };
   FormWindow splash(jukebox.house.splash.form, pictures);
   splash.setWindowFlags(Qt::SplashScreen);
+  splash.move(QGuiApplication::primaryScreen()->geometry().center() - splash.rect().center());
   jukebox.start_up.hooks.show_splash = [&](bool visible) {
     splash.setVisible(visible);
     loop.PumpEvents();

@@ -1,8 +1,11 @@
 #include "desktop/qt_machine.h"
 
 #include <QApplication>
+#include <QEventLoop>
+#include <QIcon>
 #include <QMessageBox>
 #include <QProcess>
+#include <QPushButton>
 #include <QScreen>
 #include <chrono>
 #include <ctime>
@@ -30,6 +33,12 @@ int64_t SystemClock::Milliseconds() const {
 }
 
 void QtEventLoop::PumpEvents() { QCoreApplication::processEvents(); }
+
+void QtEventLoop::WaitForEvents(int most_ms) {
+  QEventLoop nested;
+  QTimer::singleShot(most_ms, Qt::PreciseTimer, &nested, &QEventLoop::quit);
+  nested.exec();
+}
 
 void QtEventLoop::Leave(int exit_status) {
   left_ = true;
@@ -123,8 +132,11 @@ void QtMessageBox::Show(const std::string& text) {
   QMessageBox box;
   box.setWindowTitle(kProgramTitle);
   box.setText(Decode(text));
+  // Words are enough; the style's own icon is made for small buttons.
+  box.addButton(QMessageBox::Ok)->setIcon(QIcon());
   box.setStyleSheet(
-      "QMessageBox { background: #1a1d30; } QLabel { color: #f0f1f8; font-size: 20px; }"
+      "QMessageBox { background: #26304a; padding: 24px; }"
+      "QLabel { color: #f0f1f8; font-size: 20px; padding: 16px; }"
       "QPushButton { background: #ffb84d; color: #1c1408; font-size: 20px; font-weight: bold;"
       " padding: 14px 48px; border: 0; border-radius: 8px; }");
   box.exec();

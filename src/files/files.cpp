@@ -70,6 +70,13 @@ int64_t FileLength(std::string_view path) {
   return status.st_size;
 }
 
+FileStamp StampOf(std::string_view path) {
+  struct stat status;
+  if (::stat(NativePath(path).c_str(), &status) != 0) return {};
+  constexpr int64_t kNanoseconds = 1000000000;
+  return {status.st_size, status.st_mtim.tv_sec * kNanoseconds + status.st_mtim.tv_nsec};
+}
+
 std::string ReadWholeFile(std::string_view path) {
   const Handle file(NativePath(path), O_RDONLY);
   if (!file.open()) FailWithErrno("cannot open", path);

@@ -16,6 +16,14 @@ bool FolderExists(std::string_view path);
 // Length in bytes; throws RuntimeFailure if there is no such file.
 int64_t FileLength(std::string_view path);
 
+// By what a file is told from an earlier state of itself; a file that isn't there has size -1.
+struct FileStamp {
+  int64_t size = -1;
+  int64_t changed_ns = 0;
+  bool operator==(const FileStamp&) const = default;
+};
+FileStamp StampOf(std::string_view path);
+
 // The whole file. Throws RuntimeFailure if it can't be read.
 std::string ReadWholeFile(std::string_view path);
 

@@ -34,9 +34,7 @@ Form1::Form1()
 
   for (size_t i = 0; i < panels.size(); ++i) {
     Panel& panel = panels[i];
-    // A screen that placed itself while it was made keeps its place.
-    AddPanel(form, panel, panel.place().empty() ? kScreen : panel.place(),
-             panel.place().empty() ? kNight : panel.back_color());
+    AddPanel(form, panel, kScreen);
     panel.SetVisible(i == screen::kAlbum);
   }
   jump_to_letter.panel.BringToFront();

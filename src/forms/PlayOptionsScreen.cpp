@@ -5,22 +5,20 @@ namespace sonotik {
 using namespace design;
 
 PlayOptionsScreen::PlayOptionsScreen(Panel& screen) : panel(screen) {
-  panel.SetPlace({190, kMenuHeight + 60, 900, 500});
-  panel.SetBackColor(kRaised);
-  AddPicture(panel, cover, {32, 32, 300, 300});
-  AddLabel(panel, title, {364, 32, 504, 40}, 19, kText, Align::kLeft, true);
-  AddLabel(panel, artist, {364, 76, 504, 32}, 14, kAmber);
-  AddLabel(panel, message, {364, 122, 504, 44}, 15, kCoral, Align::kLeft, true);
-  AddMainButton(panel, play_now, {364, 178, 246, 72}, "Play Now", 16);
-  AddButton(panel, play_next, {622, 178, 246, 72}, "Play Next", 15);
-  AddButton(panel, add_to_queue, {364, 262, 246, 72}, "Add To Queue", 15);
-  AddButton(panel, download, {622, 262, 246, 72}, "DOWNLOAD", 15);
+  AddPicture(panel, cover, {120, 90, 380, 380});
+  AddLabel(panel, queue_line, {120, 486, 380, 36}, 13, kMuted, Align::kCenter);
+  AddLabel(panel, title, {560, 90, 600, 56}, 24, kText, Align::kLeft, true);
+  AddLabel(panel, artist, {560, 148, 600, 40}, 17, kAmber);
+  AddLabel(panel, message, {560, 204, 600, 44}, 17, kCoral, Align::kLeft, true);
+  AddMainButton(panel, play_now, {560, 262, 294, 84}, "Play Now", 18);
+  AddButton(panel, play_next, {866, 262, 294, 84}, "Play Next", 16);
+  AddButton(panel, add_to_queue, {560, 358, 294, 84}, "Add To Queue", 16);
+  AddButton(panel, download, {866, 358, 294, 84}, "DOWNLOAD", 16);
   for (size_t i = 0; i < prices.size(); ++i) {
-    AddLabel(panel, prices[i], {364, 178 + 52 * static_cast<float>(i), 504, 44}, 15, kAmber);
+    AddLabel(panel, prices[i], {560, 262 + 60 * static_cast<float>(i), 600, 48}, 17, kAmber);
     prices[i].SetVisible(false);
   }
-  AddButton(panel, cancel, {364, 398, 504, 70}, "Cancel", 15);
-  AddLabel(panel, queue_line, {32, 344, 300, 32}, 12, kMuted, Align::kCenter);
+  AddButton(panel, cancel, {560, 466, 600, 76}, "Cancel", 16);
 }
 
 }  // namespace sonotik

@@ -9,6 +9,8 @@ class EventLoop {
   virtual ~EventLoop() = default;
   // Lets pending events run: queued input, due timers, painting. Any handler may run inside.
   virtual void PumpEvents() = 0;
+  // The same for a while: whoever waits for something else asks again this often.
+  virtual void WaitForEvents(int most_ms) = 0;
   // Ends the loop with this exit status as soon as the running handler has returned.
   virtual void Leave(int exit_status) = 0;
 };

@@ -4,6 +4,7 @@
 #define SONOTIK_PLATFORM_MACHINE_H_
 
 #include "platform/clock.h"
+#include "platform/coin_intake.h"
 #include "platform/displays.h"
 #include "platform/event_loop.h"
 #include "platform/key_state.h"
@@ -25,6 +26,7 @@ struct Machine {
   Displays& displays;
   Processes& processes;
   MessageBox& messages;
+  CoinIntake& coins;
 };
 
 }  // namespace sonotik

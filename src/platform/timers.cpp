@@ -10,7 +10,13 @@ Timer::Timer(Timers& timers, int interval_ms) : timers_(timers), interval_ms_(in
 
 Timer::~Timer() { std::erase(timers_.timers_, this); }
 
+void Timer::Retire() {
+  retired_ = true;
+  enabled_ = false;
+}
+
 void Timer::SetEnabled(bool enabled) {
+  if (retired_) return;
   if (enabled && !enabled_) due_ = timers_.clock_.Milliseconds() + interval_ms_;
   const bool woken = enabled && !enabled_;
   enabled_ = enabled;
@@ -19,7 +25,7 @@ void Timer::SetEnabled(bool enabled) {
 
 void Timers::FireDue() {
   // By index: a handler may make or end timers.
-  for (size_t i = 0; i < timers_.size() && !stopped_; ++i) {
+  for (size_t i = 0; i < timers_.size(); ++i) {
     Timer& timer = *timers_[i];
     const int64_t now = clock_.Milliseconds();
     if (!timer.enabled_ || timer.due_ > now) continue;
@@ -30,7 +36,6 @@ void Timers::FireDue() {
 
 int64_t Timers::UntilNext() const {
   int64_t next = -1;
-  if (stopped_) return next;
   for (const Timer* timer : timers_) {
     if (!timer->enabled_) continue;
     const int64_t left = std::max<int64_t>(0, timer->due_ - clock_.Milliseconds());

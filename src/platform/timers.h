@@ -24,6 +24,8 @@ class Timer {
 
   bool enabled() const { return enabled_; }
   void SetEnabled(bool enabled);
+  // Off for good, whoever switches it on: the program leaves.
+  void Retire();
 
   std::function<void()> on_tick;
 
@@ -33,6 +35,7 @@ class Timer {
   int interval_ms_;
   int64_t due_ = 0;
   bool enabled_ = false;
+  bool retired_ = false;
 };
 
 class Timers {
@@ -42,9 +45,7 @@ class Timers {
   // Fires each timer that is due, once. Entered again from a handler (through pending events) it
   // serves the other timers.
   void FireDue();
-  // Nothing fires any more, whatever is switched on: the program leaves.
-  void Stop() { stopped_ = true; }
-  // Milliseconds until the next timer is due: 0 if one is, -1 if none will be.
+  // Milliseconds until the next timer is due: 0 if one is, -1 if none is enabled.
   int64_t UntilNext() const;
   // Told when a timer was switched on, so that whoever waits can wait less.
   std::function<void()> on_change;
@@ -53,7 +54,6 @@ class Timers {
   friend class Timer;
   const Clock& clock_;
   std::vector<Timer*> timers_;
-  bool stopped_ = false;
 };
 
 }  // namespace sonotik

@@ -96,19 +96,37 @@ void Queue::Save() const {
 
 void Queue::DeleteSaved() const { DeleteFileIfThere(app_path_ + "\\queue.dat"); }
 
-void Queue::Export() {
-  LineWriter writer;
-  writer.Number(static_cast<long>(count()));
-  for (int i = 0; i <= count(); ++i) {
-    writer.Text(path(i));
-    writer.Text(cover(i));
-    if (path(i).empty()) continue;
-    tags_.ReadFor(TagCaller::kQueueUpl, path(i));
-    writer.Text(fields_.txtArtist);
-    writer.Text(fields_.txtTitle);
-    writer.Text(fields_.txtAlbum);
+const Queue::Names& Queue::NamesOf(const std::string& path, std::map<std::string, Names>& known) {
+  const auto [entry, is_new] = known.try_emplace(path);
+  Names& names = entry->second;
+  if (!is_new) return names;
+  names.file = StampOf(path);
+  names.sidecar = StampOf(path + ".tag");
+  const auto before = exported_.find(path);
+  if (before != exported_.end() && before->second.file == names.file &&
+      before->second.sidecar == names.sidecar) {
+    names.lines = before->second.lines;
+    return names;
   }
-  ReplaceFile(app_path_ + "\\queue.upl", writer.text());
+  LineWriter writer;
+  tags_.ReadFor(TagCaller::kQueueUpl, path);
+  writer.Text(fields_.txtArtist);
+  writer.Text(fields_.txtTitle);
+  writer.Text(fields_.txtAlbum);
+  names.lines = writer.text();
+  return names;
+}
+
+void Queue::Export() {
+  std::map<std::string, Names> known;
+  std::string text = NumberField(static_cast<long>(count())) + "\r\n";
+  // One step beyond the last entry, as in queue.dat.
+  for (int i = 0; i <= count(); ++i) {
+    text += path(i) + "\r\n" + cover(i) + "\r\n";
+    if (!path(i).empty()) text += NamesOf(path(i), known).lines;
+  }
+  exported_ = std::move(known);
+  ReplaceFile(app_path_ + "\\queue.upl", text);
 }
 
 }  // namespace sonotik

@@ -2,9 +2,11 @@
 #ifndef SONOTIK_PLAYBACK_QUEUE_H_
 #define SONOTIK_PLAYBACK_QUEUE_H_
 
+#include <map>
 #include <string>
 #include <vector>
 
+#include "files/files.h"
 #include "platform/random_source.h"
 #include "tags/tag_fields.h"
 #include "tags/tag_reader.h"
@@ -42,12 +44,22 @@ class Queue {
   void Export();
 
  private:
+  // What queue.upl says of an entry, and the files it was read from as they were then.
+  struct Names {
+    FileStamp file;
+    FileStamp sidecar;
+    std::string lines;
+  };
+  const Names& NamesOf(const std::string& path, std::map<std::string, Names>& known);
+
   const std::string& app_path_;
   RandomSource& random_;
   TagReader& tags_;
   const TagFields& fields_;
   std::vector<std::string> paths_;
   std::vector<std::string> covers_;
+  // Of the last rewrite of queue.upl; a file that hasn't changed since isn't read again.
+  std::map<std::string, Names> exported_;
 };
 
 }  // namespace sonotik

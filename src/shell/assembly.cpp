@@ -20,6 +20,7 @@ Assembly::Assembly(std::string path, Machine& ports)
       credits(app_path, settings, lists, form1),
       key_map(app_path),
       permissions(app_path, ports.messages),
+      network(app_path),
       tags(fields, [this] { return settings.use_filename_if_no_tag; }),
       covers(app_path, settings),
       catalogue(app_path),
@@ -37,6 +38,11 @@ Assembly::Assembly(std::string path, Machine& ports)
              form1),
       selection(settings, playback, cursor, credits, queue, queue_view, tracks, covers, tags) {
   play_options.is_queued = [this](const std::string& chosen) { return queue.Contains(chosen); };
+  selection.hand_to_master = [this](const std::string& track) {
+    if (!network.terminal()) return false;
+    network.WriteSpool({playback.play_now_flag, playback.play_next_flag, track});
+    return true;
+  };
   play_options.queue_count = [this] { return queue.count(); };
 }
 

@@ -20,6 +20,7 @@
 #include "forms/Form1.h"
 #include "forms/Form2.h"
 #include "forms/Splash.h"
+#include "peripherals/network.h"
 #include "platform/machine.h"
 #include "playback/genre_lists.h"
 #include "playback/media_engine.h"
@@ -72,6 +73,7 @@ struct Assembly {
   Credits credits;
   KeyMap key_map;
   Permissions permissions;
+  Network network;
 
   TagFields fields;
   TagReader tags;

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "shell/assembly.h"
+#include "shell/key_poll.h"
 #include "shell/navigation.h"
 #include "shell/settings_effects.h"
 #include "shell/shutdown.h"
@@ -22,7 +23,9 @@ class Jukebox {
         start_up(house, effects),
         ticks(house),
         navigation(house),
+        keys(house, navigation),
         shutdown(house) {
+    ticks.hooks.PollKeys = [this] { keys.PollKeys(); };
     ticks.hooks.leave_program = [this] { shutdown.TimedExit(); };
   }
 
@@ -40,6 +43,7 @@ class Jukebox {
   StartUp start_up;
   Ticks ticks;
   Navigation navigation;
+  KeyPoll keys;
   Shutdown shutdown;
 };
 

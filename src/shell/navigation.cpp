@@ -153,6 +153,12 @@ void Navigation::WireTrackList() {
   OnClick(screen.play_next, "Play NEXT", [this] { ChooseRow(PlayWay::kPlayNext); });
   OnClick(screen.add_to_queue, "Add To Queue", [this] { ChooseRow(PlayWay::kAddToQueue); });
   OnClick(screen.add_entire_album, "Add Entire Album", [this] { AddEntireAlbum(); });
+  // These read the tag for whoever burns or fetches, and do nothing more.
+  for (lvButtons_H* button : {&screen.burn_cd, &screen.download}) {
+    OnClick(*button, "Burn CD", [this, &list] {
+      house_.tags.ReadFor(TagCaller::kBurnOrDownload, list.PathOfRow(list.selected_row()));
+    });
+  }
 }
 
 void Navigation::PressTrackRow(int row) {
@@ -215,6 +221,8 @@ void Navigation::WirePlayOptions() {
   OnClick(screen.play_now, "Play Now", [this] { ChoosePlayOption(PlayWay::kPlayNow); });
   OnClick(screen.play_next, "Play Next", [this] { ChoosePlayOption(PlayWay::kPlayNext); });
   OnClick(screen.add_to_queue, "Add To Queue", [this] { ChoosePlayOption(PlayWay::kAddToQueue); });
+  OnClick(screen.download, "DOWNLOAD",
+          [this] { house_.tags.ReadFor(TagCaller::kBurnOrDownload, house_.play_options.path()); });
   OnClick(screen.cancel, "Cancel", [this] { house_.play_options.Close(); });
   OnClick(screen.panel, "play options", [this] {
     // The message without buttons is left by a touch, but not with credits in hand.

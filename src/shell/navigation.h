@@ -23,6 +23,10 @@ class Navigation {
   void PressTrackRow(int row);
   void DoubleClickTrackRow(int row);
   void PressPlayer(PlayerButton button);
+  // Hundredths of a decibel, for the slider, the setting and the track that plays.
+  void SetVolume(int value);
+  // Adds or plays by the way chosen; what fails behind the charge is no failure of the caller.
+  void Choose(const std::string& path, PlayWay way);
   void ToggleFullScreen();
 
  private:
@@ -36,13 +40,11 @@ class Navigation {
   template <typename Handler>
   void OnClick(Control& control, const char* name, Handler handler);
 
-  void Choose(const std::string& path, PlayWay way);
   void ChooseRow(PlayWay way);
   void ChoosePlayOption(PlayWay way);
   void AddEntireAlbum();
   void PlayQueueEntry();
   void AfterAdding(size_t calling_screen);
-  void SetVolume(int value);
 
   Assembly& house_;
   // The video box's own place while it fills the screen.

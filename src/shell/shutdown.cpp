@@ -15,8 +15,9 @@ void Shutdown::TimedExit() {
     house_.machine.processes.StartCommand(house_.settings.shutdown_command, WindowState::kNormal);
   }
   house_.state.shutting_down = true;
-  hooks.close_credit_module();
-  house_.machine.timers.Stop();
+  house_.machine.coins.CloseFeeder();
+  house_.timer1.Retire();
+  house_.state_timer.Retire();
   house_.engine.CloseMedia();
   house_.machine.events.Leave(0);
 }

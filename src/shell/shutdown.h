@@ -12,7 +12,6 @@ namespace sonotik {
 struct ShutdownHooks {
   std::function<void()> ShowTaskbar = [] {};
   std::function<void()> RestoreResolution = [] {};
-  std::function<void()> close_credit_module = [] {};
 };
 
 class Shutdown {

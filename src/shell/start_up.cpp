@@ -28,7 +28,10 @@ StartUpResult StartUp::Form_Load() {
   house_.splash.version.SetCaption(kVersionCaption);
   if (FileExists(picture)) house_.splash.picture.SetPicture(picture);
   hooks.show_splash(true);
-  Run("coin intake", hooks.open_coin_intake);
+  Run("coin intake", [&] {
+    house_.machine.coins.Open(app_path,
+                              [&](const std::string& text) { house_.credits.Receive(text); });
+  });
 
   house_.lists.FillFixed(house_.machine.displays.MonitorCount());
   Run("sign lists", hooks.set_up_sign_lists);
@@ -146,7 +149,11 @@ void StartUp::LoadDataFiles() {
        [&] { house_.permissions.LoadPermissions(); });
   Load("cost.dat", "CostLoad Complete", [&] { house_.credits.LoadCost(); });
   Load("betabrite.ini", "BETABRITE Settings Load Complete", hooks.load_sign);
-  Load("terminal.ini", "Teminal/Master Load Complete", hooks.load_terminal);
+  Load("terminal.ini", "Teminal/Master Load Complete", [&] {
+    house_.network.LoadTerminal();
+    // A Terminal plays nothing, so it can't choose by itself.
+    house_.playback.random_play_available = !house_.network.terminal();
+  });
   Load("load_history_chart", "History CHART Load Complete", [&] {
     hooks.load_history_chart(
         ChartPath(house_.app_path, house_.state.current_month, house_.state.current_year));
@@ -169,7 +176,7 @@ void StartUp::ShowFirstPage() {
 
 void StartUp::PlayStartSound() {
   const std::string sound = house_.app_path + "\\startup.mp3";
-  if (!FileExists(sound) || hooks.is_terminal()) return;
+  if (!FileExists(sound) || house_.network.terminal()) return;
   // Set for the length of the call only: left set, every later selection would be free.
   const struct Clear {
     PlaybackState& state;

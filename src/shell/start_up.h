@@ -14,7 +14,6 @@ namespace sonotik {
 // nothing until its owner fills it in.
 struct StartUpHooks {
   std::function<void(bool visible)> show_splash = [](bool) {};
-  std::function<void()> open_coin_intake = [] {};
   std::function<void()> set_up_sign_lists = [] {};
   std::function<void()> set_up_working_lists = [] {};
   std::function<void()> genre_scroll_show = [] {};
@@ -23,12 +22,9 @@ struct StartUpHooks {
   std::function<void()> read_window_style = [] {};
   std::function<void()> ApplySkin = [] {};
   std::function<void()> load_sign = [] {};
-  std::function<void()> load_terminal = [] {};
   std::function<void(const std::string& path)> load_history_chart = [](const std::string&) {};
   std::function<void()> apply_window_style = [] {};
   std::function<void()> update_skinlist = [] {};
-  // This machine hands its selections to another one.
-  std::function<bool()> is_terminal = [] { return false; };
 };
 
 enum class StartUpResult {

@@ -167,9 +167,25 @@ void Ticks::ClearPlayingInfoOnce() {
   }
 }
 
+void Ticks::TakeSpoolFile() {
+  const auto selection = house_.network.ReadSpool();
+  if (!selection) return;
+  // Served once: the file goes and the flags fall, whatever the adding comes to.
+  const struct Served {
+    Assembly& house;
+    ~Served() {
+      house.playback.play_now_flag = house.playback.play_next_flag = 0;
+      house.boundary.Run("spool file", [this] { house.network.RemoveSpool(); });
+    }
+  } served{house_};
+  house_.playback.play_now_flag = selection->play_now_flag;
+  house_.playback.play_next_flag = selection->play_next_flag;
+  house_.selection.add_queue4(selection->path);
+}
+
 void Ticks::Poll() {
   const OffMeanwhile off(house_.timer1);
-  hooks.take_spool_file();
+  if (house_.network.master()) TakeSpoolFile();
   house_.credits.ShowCreditState();
   hooks.PollKeys();
 }

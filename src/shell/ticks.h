@@ -19,7 +19,6 @@ struct TickHooks {
   std::function<void()> leave_program = [] {};
   std::function<void()> play_jingle = [] {};
   std::function<void()> Random_Play = [] {};
-  std::function<void()> take_spool_file = [] {};
   std::function<void()> PollKeys = [] {};
 };
 
@@ -46,6 +45,7 @@ class Ticks {
   void StartQueueHead();
   void CountDeadAir();
   void ClearPlayingInfoOnce();
+  void TakeSpoolFile();
 
   Assembly& house_;
 };

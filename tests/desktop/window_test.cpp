@@ -8,7 +8,7 @@
 
 #include "desktop/form_window.h"
 #include "desktop/painter_canvas.h"
-#include "desktop/program_folder.h"
+#include "files/program_folder.h"
 #include "desktop/qt_machine.h"
 #include "desktop/text_decoding.h"
 #include "support/jukebox_test.h"

@@ -38,8 +38,8 @@ TEST(Timers, ALongHandlerStretchesItsOwnIntervalAndOthersRunInside) {
   clock.Add(1);
   timers.FireDue();
   EXPECT_EQ(ticks, 2);
-  timers.Stop();
-  poll.SetEnabled(true);
+  slow.Retire();
+  slow.SetEnabled(true);
   EXPECT_EQ(timers.UntilNext(), -1);
 }
 

@@ -146,7 +146,7 @@ TEST_F(StartUpTest, TheStartSoundIsTheMachinesOwnAndNotATerminals) {
   jukebox.reset();
   machine.player.file.clear();
   jukebox = std::make_unique<Jukebox>(folder.path(), machine.machine);
-  jukebox->start_up.hooks.is_terminal = [] { return true; };
+  folder.Write("terminal.ini", "Terminal \\ Master config\r\n\r\nFalse\r\nTrue\r\n");
   jukebox->Start();
   EXPECT_EQ(machine.player.file, "");
 }
@@ -164,11 +164,10 @@ TEST_F(StartUpTest, TheSeamsRunAtTheirPlaces) {
   hooks.read_window_style = note("style");
   hooks.ApplySkin = note("skin");
   hooks.load_sign = note("sign");
-  hooks.load_terminal = note("terminal");
   hooks.load_history_chart = [&](const std::string& path) { note(path.c_str())(); };
   jukebox->Start();
   EXPECT_EQ(seen, (std::vector<std::string>{"genre bar after 1", "style after 7", "skin after 9",
-                                            "sign after 14", "terminal after 15",
+                                            "sign after 14",
                                             folder.path() + "\\history\\2024\\01.txt after 16"}));
 }
 

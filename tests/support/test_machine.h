@@ -123,6 +123,7 @@ class TestEvents : public EventLoop {
     ++pumps;
     on_pump();
   }
+  void WaitForEvents(int) override { PumpEvents(); }
   void Leave(int status) override {
     left = true;
     exit_status = status;
@@ -168,6 +169,16 @@ class TestMessages : public MessageBox {
   }
 };
 
+class TestCoins : public CoinIntake {
+ public:
+  std::function<void(const std::string&)> put = [](const std::string&) {};
+  bool feeder_closed = false;
+  void Open(const std::string&, std::function<void(const std::string&)> on_text) override {
+    put = std::move(on_text);
+  }
+  void CloseFeeder() override { feeder_closed = true; }
+};
+
 struct TestMachine {
   TestClock clock;
   TestRandom random;
@@ -178,7 +189,9 @@ struct TestMachine {
   TestDisplays displays;
   TestProcesses processes;
   TestMessages messages;
-  Machine machine{clock, random, events, timers, keys, player, displays, processes, messages};
+  TestCoins coins;
+  Machine machine{clock,  random,   events,    timers,   keys,
+                  player, displays, processes, messages, coins};
 };
 
 }  // namespace sonotik

@@ -1,4 +1,4 @@
-#include "desktop/program_folder.h"
+#include "files/program_folder.h"
 
 #include <unistd.h>
 

@@ -1,6 +1,6 @@
 // The folder of the program as it was started.
-#ifndef SONOTIK_DESKTOP_PROGRAM_FOLDER_H_
-#define SONOTIK_DESKTOP_PROGRAM_FOLDER_H_
+#ifndef SONOTIK_FILES_PROGRAM_FOLDER_H_
+#define SONOTIK_FILES_PROGRAM_FOLDER_H_
 
 #include <filesystem>
 
@@ -12,4 +12,4 @@ std::filesystem::path ProgramFolder(const char* started_as, const char* search_p
 
 }  // namespace sonotik
 
-#endif  // SONOTIK_DESKTOP_PROGRAM_FOLDER_H_
+#endif  // SONOTIK_FILES_PROGRAM_FOLDER_H_

@@ -1,0 +1,77 @@
+#include "peripherals/network.h"
+
+#include "files/files.h"
+#include "files/line_format.h"
+#include "files/runtime_failure.h"
+#include "text/numbers.h"
+
+namespace sonotik {
+namespace {
+
+SpooledSelection Parse(const std::string& text) {
+  // The path is a whole line: a comma in it is part of it.
+  LineReader reader(text);
+  SpooledSelection selection;
+  selection.play_now_flag = FieldReader(reader.Next() + "\r\n").Int16();
+  selection.play_next_flag = FieldReader(reader.Next() + "\r\n").Int16();
+  selection.path = reader.Next();
+  return selection;
+}
+
+}  // namespace
+
+void Network::LoadTerminal() {
+  const std::string path = app_path_ + "\\terminal.ini";
+  if (!FileExists(path)) return;
+  FieldReader reader(ReadWholeFile(path));
+  reader.Skip();
+  shared_folder_ = reader.Text();
+  master_ = reader.Truth();
+  terminal_ = reader.Truth();
+}
+
+void Network::SaveTerminal() const {
+  LineWriter writer;
+  writer.Text("Terminal \\ Master config");
+  writer.Text(shared_folder_);
+  writer.Truth(master_);
+  writer.Truth(terminal_);
+  ReplaceFile(app_path_ + "\\terminal.ini", writer.text());
+}
+
+void Network::SetRole(bool master, bool terminal) {
+  master_ = master;
+  terminal_ = terminal;
+}
+
+void Network::WriteSpool(const SpooledSelection& selection) const {
+  std::string name = shared_folder_ + "Queue.QUE";
+  for (long counter = 1; FileExists(name); ++counter) {
+    name = shared_folder_ + "Queue" + NumberCaption(counter) + ".QUE";
+  }
+  LineWriter writer;
+  writer.Number(static_cast<long>(selection.play_now_flag));
+  writer.Number(static_cast<long>(selection.play_next_flag));
+  writer.Text(selection.path);
+  AppendToFile(name, writer.text());
+}
+
+std::optional<SpooledSelection> Network::ReadSpool() {
+  spool_files_.SetFolder(app_path_);
+  for (int i = 0; i < spool_files_.count(); ++i) {
+    served_ = spool_files_.PathAt(i);
+    const std::string text = ReadWholeFile(served_);
+    if (text.empty()) continue;
+    try {
+      return Parse(text);
+    } catch (const RuntimeFailure&) {
+      RemoveSpool();
+      throw;
+    }
+  }
+  return {};
+}
+
+void Network::RemoveSpool() { DeleteFileIfThere(served_); }
+
+}  // namespace sonotik

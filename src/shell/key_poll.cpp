@@ -1,0 +1,184 @@
+#include "shell/key_poll.h"
+
+namespace sonotik {
+namespace {
+
+// Slots of the key map; 21 to 33 are stored and never polled.
+enum Slot : size_t {
+  kUp,
+  kDown,
+  kLeft,
+  kRight,
+  kSelect,
+  kBrowseBack,
+  kBrowseForward,
+  kRestartTrack,
+  kPauseAudio,
+  kNextTrack,
+  kIncreaseVolume,
+  kDecreaseVolume,
+  kAlbumView,
+  kHistory,
+  kTop20,
+  kSearch,
+  kShowQueue,
+  kOptions,
+  kDecades,
+  kCarouselView,
+  kRandomOnOff,
+  kPowerOff = 34,
+};
+
+constexpr int kEscape = 27;
+// How often a held key is asked for.
+constexpr int kReleaseCheckMs = 10;
+constexpr int kVolumeStep = 30;
+
+}  // namespace
+
+bool KeyPoll::Down(size_t slot) const {
+  const int code = house_.key_map.code(slot);
+  return code >= 0 && house_.machine.keys.IsDown(code);
+}
+
+void KeyPoll::WaitForRelease(int code) {
+  while (house_.machine.keys.IsDown(code) && !house_.state.shutting_down) {
+    house_.machine.events.WaitForEvents(kReleaseCheckMs);
+  }
+}
+
+template <typename Action>
+void KeyPoll::On(size_t slot, Action action) {
+  if (!Down(slot)) return;
+  house_.state.idle_seconds = 0;
+  action();
+  // The Power Off key waits for the one before it; that is meant.
+  WaitForRelease(house_.key_map.code(slot == kPowerOff ? kRandomOnOff : slot));
+}
+
+void KeyPoll::PollKeys() {
+  if (house_.settings.disable_keymapping) return PollEscapeOnly();
+  PollTrackList();
+  PollAlbumPages();
+  PollFromAnywhere();
+}
+
+void KeyPoll::PollEscapeOnly() {
+  if (!house_.machine.keys.IsDown(kEscape)) return;
+  house_.state.idle_seconds = 0;
+  house_.form1.HideAllScreens();
+  hooks.EnterOptions();
+  // Not Escape itself but the key 48 above "Browse Back" is waited for; that stays.
+  WaitForRelease(house_.key_map.code(kBrowseBack) + 48);
+}
+
+void KeyPoll::PollTrackList() {
+  if (!house_.form1.panel(screen::kTrackList).visible()) return;
+  On(kUp, [this] { MoveTrackHighlight(-1); });
+  On(kDown, [this] { MoveTrackHighlight(1); });
+  On(kSelect, [this] { TakeTrack(); });
+}
+
+void KeyPoll::MoveTrackHighlight(int by) {
+  const int row = house_.track_list.selected_row() + by;
+  // Without a highlight "DOWN" begins with the first row and "UP" does nothing.
+  if (row >= 0 && row < kMostTrackRows) house_.track_list.SelectRow(row);
+}
+
+void KeyPoll::TakeTrack() {
+  const int row = house_.track_list.selected_row();
+  if (row < 0) return;
+  // The offset goes first, so a scrolled list yields the file of the unscrolled row; that is meant.
+  house_.track_list.SetPageTop(0);
+  const std::string path = house_.track_list.PathOfRow(row);
+  navigation_.Back();
+  if (!path.empty()) navigation_.Choose(path, PlayWay::kAddToQueue);
+}
+
+void KeyPoll::PollAlbumPages() {
+  if (!house_.form1.panel(screen::kAlbum).visible()) return;
+  On(kLeft, [this] { MoveCoverHighlight(-1); });
+  On(kRight, [this] { MoveCoverHighlight(1); });
+  On(kSelect, [this] {
+    const int position = house_.pages.highlight();
+    if (position >= 0) house_.track_list.Open(house_.pages.FolderAt(position));
+  });
+}
+
+void KeyPoll::MoveCoverHighlight(int by) {
+  const int position = house_.pages.highlight() + by;
+  if (position >= 0 && position < house_.cover_layout.covers_per_page) {
+    house_.pages.SetHighlight(position);
+  }
+}
+
+void KeyPoll::PollFromAnywhere() {
+  const auto press = [this](PlayerButton button) {
+    return [this, button] { navigation_.PressPlayer(button); };
+  };
+  On(kBrowseBack, [this] { StepPage(-1); });
+  On(kBrowseForward, [this] { StepPage(1); });
+  On(kRestartTrack, press(PlayerButton::kRestart));
+  On(kPauseAudio, press(PlayerButton::kPause));
+  On(kNextTrack, press(PlayerButton::kNext));
+  // "Increase Vol" lowers and "Decrease Vol" raises; that stays.
+  On(kIncreaseVolume, [this] { StepVolume(-kVolumeStep); });
+  On(kDecreaseVolume, [this] { StepVolume(kVolumeStep); });
+  On(kAlbumView, [this] { Show(screen::kAlbum); });
+  On(kHistory, [this] {
+    hooks.history_show2();
+    Show(screen::kHistory);
+  });
+  On(kTop20, [this] {
+    hooks.Top20_show3();
+    Show(screen::kTop20);
+  });
+  On(kSearch, [this] {
+    hooks.reset_search();
+    Show(screen::kSearch);
+  });
+  On(kShowQueue, [this] { Show(screen::kQueue); });
+  On(kOptions, [this] {
+    house_.form1.HideAllScreens();
+    hooks.EnterOptions();
+  });
+  On(kDecades, [this] { Show(screen::kDecades); });
+  On(kCarouselView, [this] {
+    house_.carousel.Carousel_show();
+    Show(screen::kCarousel);
+  });
+  On(kRandomOnOff, [this] { ToggleRandom(); });
+  On(kPowerOff, [this] { hooks.power_down(); });
+}
+
+void KeyPoll::StepPage(int direction) {
+  CatalogueCursor& cursor = house_.cursor;
+  const long covers = house_.cover_layout.covers_per_page;
+  if (direction > 0) {
+    house_.pages.StepWithUndo(1, [this] { house_.pages.read_albums3(); });
+    return;
+  }
+  // One page back, as long as that is above 0; the page is painted in any case.
+  if (cursor.position() - covers > 0) cursor.SetPosition(cursor.position() - covers);
+  house_.pages.read_albums3();
+}
+
+void KeyPoll::StepVolume(int by) {
+  const int volume = house_.settings.main_volume + by;
+  // Strictly inside, unlike the buttons on the screen.
+  if (volume > kLeastVolume && volume < kMostVolume) navigation_.SetVolume(volume);
+}
+
+void KeyPoll::ToggleRandom() {
+  bool& on = house_.playback.random_mode_on;
+  on = !on;
+  house_.settings.enable_random_play = on;
+  house_.form1.random.SetCaption(on ? "Random ON" : "Random OFF");
+}
+
+void KeyPoll::Show(size_t index) {
+  house_.form1.HideAllScreens();
+  house_.form1.ShowScreen(index);
+}
+
+}  // namespace sonotik

@@ -1,0 +1,225 @@
+#include <gtest/gtest.h>
+
+#include "files/files.h"
+#include "support/jukebox_test.h"
+
+namespace sonotik {
+namespace {
+
+class KeysTest : public JukeboxTest {
+ protected:
+  KeysTest() {
+    for (int i = 1; i <= 15; ++i) {
+      WriteTrack("Long", LastDigitsOf(i) + ".wav", "Ada", "T" + std::to_string(i));
+    }
+    std::vector<TestAlbum> albums = {{"Long", "Ada"}};
+    for (int i = 2; i <= 30; ++i) albums.push_back({"B" + std::to_string(i), "Bob"});
+    WriteAlbums(albums);
+    // Each slot has the key 40 + slot.
+    std::string map;
+    for (int slot = 0; slot < 35; ++slot) map += " " + std::to_string(40 + slot) + " \r\n";
+    folder.Write("keyboard.dat", map);
+  }
+  static std::string LastDigitsOf(int i) { return (i < 10 ? "0" : "") + std::to_string(i); }
+
+  // A press of so many rounds of the waiting loop; gives how many there were.
+  int Press(int code, int held_for = 3) {
+    machine.keys.down.insert(code);
+    int waited = 0;
+    machine.events.on_pump = [&, held_for] {
+      if (++waited >= held_for) machine.keys.down.erase(code);
+    };
+    machine.clock.Add(10);
+    machine.timers.FireDue();
+    machine.keys.down.erase(code);
+    machine.events.on_pump = [] {};
+    return waited;
+  }
+  int PressSlot(int slot, int held_for = 3) { return Press(40 + slot, held_for); }
+};
+
+TEST_F(KeysTest, OnePressIsOneActionHoweverLongItIsHeld) {
+  Start();
+  EXPECT_EQ(PressSlot(6, 50), 50);
+  EXPECT_EQ(house().cursor.position(), 13);
+  PressSlot(6);
+  EXPECT_EQ(house().cursor.position(), 25);
+  PressSlot(6);
+  EXPECT_EQ(house().cursor.position(), 25);
+  PressSlot(5);
+  PressSlot(5);
+  EXPECT_EQ(house().cursor.position(), 1);
+  PressSlot(5);
+  EXPECT_EQ(house().cursor.position(), 1);
+}
+
+TEST_F(KeysTest, TheTickGoesOnWhileAKeyIsHeld) {
+  Start();
+  house().selection.Choose(AlbumPath("Long") + "01.wav", PlayWay::kPlayNow);
+  house().selection.Choose(AlbumPath("Long") + "02.wav", PlayWay::kAddToQueue);
+  machine.keys.down.insert(40 + 12);
+  int rounds = 0;
+  machine.events.on_pump = [&] {
+    machine.clock.Add(100);
+    machine.player.Add(0.1);
+    machine.timers.FireDue();
+    if (++rounds == 400) machine.keys.down.clear();
+  };
+  machine.clock.Add(10);
+  machine.timers.FireDue();
+  EXPECT_EQ(rounds, 400);
+  EXPECT_EQ(machine.player.file, AlbumPath("Long") + "02.wav");
+}
+
+TEST_F(KeysTest, CoversAreMarkedOpenedAndTheirTracksTaken) {
+  Start();
+  PressSlot(2);
+  EXPECT_EQ(house().pages.highlight(), -1);
+  PressSlot(3);
+  EXPECT_EQ(house().pages.highlight(), 0);
+  EXPECT_TRUE(form().album.covers[0].album.highlighted());
+  PressSlot(4);
+  EXPECT_TRUE(form().panel(screen::kTrackList).visible());
+  PressSlot(0);
+  EXPECT_EQ(house().track_list.selected_row(), -1);
+  PressSlot(4);
+  EXPECT_EQ(house().queue.count(), 0);
+  PressSlot(1);
+  PressSlot(1);
+  EXPECT_EQ(house().track_list.selected_row(), 1);
+  PressSlot(4);
+  EXPECT_EQ(house().queue.path(0), AlbumPath("Long") + "02.wav");
+  EXPECT_TRUE(form().panel(screen::kAlbum).visible());
+  EXPECT_FALSE(form().panel(screen::kTrackList).visible());
+}
+
+TEST_F(KeysTest, AScrolledListYieldsTheFileOfTheUnscrolledRow) {
+  Start();
+  house().track_list.Open(AlbumPath("Long"));
+  Click(form().track_list.down);
+  EXPECT_EQ(form().track_list.rows[0].title.caption(), "T14");
+  PressSlot(1);
+  PressSlot(4);
+  EXPECT_EQ(house().queue.path(0), AlbumPath("Long") + "01.wav");
+}
+
+TEST_F(KeysTest, ARowWithoutATrackOffersNothing) {
+  Start();
+  house().track_list.Open(AlbumPath("Long"));
+  Click(form().track_list.down);
+  PressSlot(1);
+  EXPECT_TRUE(form().track_list.play_now.visible());
+  PressSlot(1);
+  PressSlot(1);
+  EXPECT_EQ(house().track_list.selected_row(), 2);
+  EXPECT_FALSE(form().track_list.play_now.visible());
+  EXPECT_FALSE(form().track_list.add_entire_album.visible());
+}
+
+TEST_F(KeysTest, TheVolumeKeysRunAgainstTheirNamesAndStopInside) {
+  Start();
+  house().settings.main_volume = -60;
+  PressSlot(10);
+  EXPECT_EQ(house().settings.main_volume, -90);
+  PressSlot(11);
+  PressSlot(11);
+  EXPECT_EQ(house().settings.main_volume, -30);
+  PressSlot(11);
+  EXPECT_EQ(house().settings.main_volume, -30);
+  Click(form().player_buttons[static_cast<size_t>(PlayerButton::kVolumeUp)]);
+  EXPECT_EQ(house().settings.main_volume, 0);
+  house().settings.main_volume = kLeastVolume + 30;
+  PressSlot(10);
+  EXPECT_EQ(house().settings.main_volume, kLeastVolume + 30);
+}
+
+TEST_F(KeysTest, PauseAndNextActOnTheTrackThatPlays) {
+  Start();
+  house().selection.Choose(AlbumPath("Long") + "01.wav", PlayWay::kPlayNow);
+  PressSlot(8);
+  EXPECT_TRUE(house().playback.paused);
+  PressSlot(9);
+  EXPECT_FALSE(machine.player.playing());
+  PressSlot(8);
+  EXPECT_TRUE(machine.player.playing());
+  PressSlot(9);
+  EXPECT_FALSE(machine.player.playing());
+  PressSlot(20);
+  EXPECT_TRUE(house().playback.random_mode_on);
+  EXPECT_TRUE(house().settings.enable_random_play);
+  EXPECT_EQ(form().random.caption(), "Random ON");
+}
+
+TEST_F(KeysTest, KeypadKeysAreStoredAndNeverAsked) {
+  Start();
+  for (int slot = 21; slot <= 33; ++slot) EXPECT_EQ(PressSlot(slot), 0) << slot;
+}
+
+TEST_F(KeysTest, PowerOffWaitsForTheKeyBeforeIt) {
+  Start();
+  int offs = 0;
+  jukebox->keys.hooks.power_down = [&] { ++offs; };
+  EXPECT_EQ(PressSlot(34), 0);
+  EXPECT_EQ(offs, 1);
+}
+
+TEST_F(KeysTest, WithoutKeyMappingOnlyEscapeLivesAndTheSpoolIsServed) {
+  settings.disable_keymapping = true;
+  WriteDefaults();
+  folder.Write("terminal.ini", "x\r\n\r\nTrue\r\nFalse\r\n");
+  Start();
+  int entered = 0;
+  jukebox->keys.hooks.EnterOptions = [&] { ++entered; };
+  EXPECT_EQ(PressSlot(6), 0);
+  EXPECT_EQ(house().cursor.position(), 1);
+  // Escape is 27; what is waited for is the key 48 above "Browse Back".
+  machine.keys.down.insert(45 + 48);
+  int rounds = 0;
+  machine.keys.down.insert(27);
+  machine.events.on_pump = [&] {
+    if (++rounds == 5) machine.keys.down.clear();
+  };
+  folder.Write("Queue.QUE", " 0 \r\n 0 \r\n\\m\\x, y.wav\r\n");
+  machine.clock.Add(10);
+  machine.timers.FireDue();
+  EXPECT_EQ(entered, 1);
+  EXPECT_EQ(rounds, 5);
+  EXPECT_EQ(house().queue.path(0), "\\m\\x, y.wav");
+}
+
+TEST_F(KeysTest, AMasterServesOneFileAPollAndADamagedOneStopsNothing) {
+  folder.Write("terminal.ini", "x\r\n\r\nTrue\r\nFalse\r\n");
+  Start();
+  folder.Write("Queue 1.QUE", "rubbish\r\n");
+  folder.Write("Queue 2.que", "");
+  folder.Write("Queue 3.que", " 0 \r\n 1 \r\n\\m\\3.wav\r\n");
+  folder.Write("Queue.QUE", " 0 \r\n 0 \r\n\\m\\4.wav\r\n 0 \r\n 0 \r\n\\m\\5.wav\r\n");
+  for (int i = 0; i < 6; ++i) {
+    machine.clock.Add(10);
+    machine.timers.FireDue();
+  }
+  EXPECT_EQ(house().boundary.failures(), 1);
+  EXPECT_EQ(house().queue.count(), 2);
+  EXPECT_EQ(house().queue.path(0), "\\m\\3.wav");
+  EXPECT_EQ(house().queue.path(1), "\\m\\4.wav");
+  EXPECT_EQ(house().playback.play_next_flag, 0);
+  EXPECT_TRUE(folder.Has("Queue 2.que"));
+  EXPECT_FALSE(folder.Has("Queue.QUE"));
+}
+
+TEST_F(KeysTest, ATerminalHandsItsSelectionsOver) {
+  const std::string shared = folder.path() + "\\shared\\";
+  folder.Write("shared/x", "");
+  folder.Write("terminal.ini", "x\r\n" + shared + "\r\nFalse\r\nTrue\r\n");
+  Start();
+  house().selection.Choose("\\m\\1.wav", PlayWay::kPlayNext);
+  house().selection.Choose(AlbumPath("Long") + "01.wav", PlayWay::kPlayNow);
+  EXPECT_EQ(folder.Read("shared/Queue.QUE"), " 0 \r\n 1 \r\n\\m\\1.wav\r\n");
+  EXPECT_EQ(folder.Read("shared/Queue 1.QUE").substr(0, 10), " 1 \r\n 0 \r\n");
+  EXPECT_EQ(house().queue.count(), 0);
+  EXPECT_EQ(machine.player.file, "");
+  EXPECT_TRUE(folder.Has("queue.upl"));
+}
+
+}  // namespace
+}  // namespace sonotik

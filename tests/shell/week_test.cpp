@@ -1,0 +1,214 @@
+// A week in a bar, evening by evening: guests at random, coins, keys and stations, with what must
+// always hold checked after each of them.
+#include <gtest/gtest.h>
+
+#include "files/files.h"
+#include "support/jukebox_test.h"
+
+namespace sonotik {
+namespace {
+
+class WeekTest : public JukeboxTest {
+ protected:
+  WeekTest() {
+    settings.enable_credit_mode = true;
+    settings.save_queue_on_shutdown = true;
+    settings.use_second_monitor = true;  // so that each add is announced
+    settings.enable_double_click = true;
+    settings.shuffle_queue_each_play = true;
+    settings.menu_options = false;  // its screen holds the idle chain by design
+    settings.now_playing_wait = "90";
+    WriteDefaults();
+    std::vector<TestAlbum> albums;
+    for (int album = 0; album < 30; ++album) {
+      const std::string name = "Album " + std::to_string(album);
+      const std::string artist = std::string(1, static_cast<char>('A' + album % 26)) + "da";
+      albums.push_back({name, artist});
+      for (int track = 0; track < 1 + album % 4; ++track) {
+        paths.push_back(WriteTrack(name, std::to_string(track) + ".wav", artist, "T"));
+      }
+    }
+    std::sort(albums.begin(), albums.end(),
+              [](const TestAlbum& a, const TestAlbum& b) { return a.artist < b.artist; });
+    WriteAlbums(albums);
+    WriteAlbums(albums, "videos.cvr");
+    folder.Write("terminal.ini", "x\r\n\r\nTrue\r\nFalse\r\n");
+    std::string prices;
+    for (int i = 0; i < 9; ++i) prices += " " + std::to_string(i % 3) + " \r\n";
+    folder.Write("cost.dat", prices);
+    std::string keys;
+    for (int slot = 0; slot < 35; ++slot) keys += " " + std::to_string(40 + slot) + " \r\n";
+    folder.Write("keyboard.dat", keys);
+  }
+
+  void Open() {
+    Start();
+    ASSERT_EQ(result, StartUpResult::kRunning);
+    house().selection.announce = [this](bool) { ++accepted; };
+    house().tracks.hooks.send_to_sign = [this] { ++accepted; };
+  }
+
+  int Draw(int n) { return static_cast<int>(draw() % static_cast<unsigned>(n)); }
+
+  static void Collect(const Panel& panel, std::vector<const Control*>& found) {
+    for (const Control* child : panel.children()) {
+      if (!child->visible()) continue;
+      const auto* inner = dynamic_cast<const Panel*>(child);
+      if (inner != nullptr) {
+        Collect(*inner, found);
+      } else if (child->TakesMouse()) {
+        found.push_back(child);
+      }
+    }
+  }
+
+  // Any place of the window, or the middle of any button, cover or row that shows.
+  void Touch() {
+    Point at{static_cast<float>(Draw(1280)), static_cast<float>(Draw(800))};
+    if (Draw(4) > 0) {
+      std::vector<const Control*> controls;
+      Collect(form().form, controls);
+      const Rect place =
+          controls[static_cast<size_t>(Draw(static_cast<int>(controls.size())))]->AbsolutePlace();
+      at = {place.left + place.width / 2, place.top + place.height / 2};
+    }
+    Form& window = form().form;
+    if (Draw(10) == 0) return window.DoubleClickMouse(at);
+    window.PressMouse(at);
+    const bool slips = Draw(8) == 0;
+    window.ReleaseMouse(slips ? Point{at.x + 30, at.y} : at);
+  }
+
+  void PressKey() {
+    const int code = 40 + Draw(35);
+    int rounds = 1 + Draw(3);
+    machine.keys.down.insert(code);
+    machine.events.on_pump = [this, &rounds, code] {
+      machine.clock.Add(20);
+      machine.timers.FireDue();
+      if (--rounds <= 0) machine.keys.down.erase(code);
+    };
+    machine.clock.Add(10);
+    machine.timers.FireDue();
+    machine.keys.down.clear();
+    machine.events.on_pump = [] {};
+  }
+
+  void DropSpoolFile() {
+    const bool rubbish = Draw(6) == 0;
+    rubbish_files += rubbish;
+    const std::string flags = " " + std::to_string(Draw(2)) + " \r\n " +
+                              std::to_string(Draw(2)) + " \r\n";
+    folder.Write("Queue " + std::to_string(Draw(5)) + ".QUE",
+                 rubbish ? "rubbish\r\n" : flags + AnyPath() + "\r\n");
+    machine.clock.Add(10);
+    machine.timers.FireDue();
+  }
+
+  std::string AnyPath() { return paths[static_cast<size_t>(Draw(static_cast<int>(paths.size())))]; }
+
+  void PutCoin() {
+    static constexpr const char* kCoins[] = {"1", "2", "20", "", "x", "0.5", "1e1"};
+    static constexpr int kWorth[] = {1, 2, 20, 0, 0, 0, 10};
+    const int coin = Draw(7);
+    const int before = house().credits.count();
+    machine.coins.put(kCoins[coin]);
+    EXPECT_EQ(house().credits.count(), before + kWorth[coin]);
+  }
+
+  void LetTimePass(int seconds) {
+    for (int i = 0; i < seconds; ++i) {
+      machine.clock.Add(1000);
+      machine.player.Add(1);
+      machine.timers.FireDue();
+    }
+  }
+
+  // What no guest, coin or key may break.
+  void CheckWhatAlwaysHolds() {
+    for (int i = 0; i < house().queue.count(); ++i) {
+      ASSERT_FALSE(house().queue.path(i).empty());
+      ASSERT_FALSE(house().queue.cover(i).empty());
+    }
+    ASSERT_EQ(house().playback.play_now_flag, 0);
+    ASSERT_EQ(house().playback.play_next_flag, 0);
+    ASSERT_FALSE(house().playback.random_in_progress);
+    ASSERT_GE(house().credits.count(), 0);
+    ASSERT_TRUE(house().timer1.enabled());
+    ASSERT_TRUE(house().state_timer.enabled());
+    ASSERT_EQ(house().boundary.failures(), rubbish_files);
+    ASSERT_EQ(form().paused.visible(), house().playback.paused);
+  }
+
+  // Three seconds without anybody: then something plays, is paused, or nothing waits.
+  void CheckNoSilence() {
+    LetTimePass(3);
+    ASSERT_TRUE(machine.player.playing() || house().playback.paused ||
+                house().queue.count() == 0);
+  }
+
+  void CloseAndReopen() {
+    std::vector<std::string> waiting;
+    for (int i = 0; i < house().queue.count(); ++i) waiting.push_back(house().queue.path(i));
+    jukebox->LeaveInOrder();
+    ASSERT_TRUE(machine.events.left);
+    machine.events.left = false;
+    jukebox.reset();
+    machine.clock.Add(18 * 3600 * 1000);
+    machine.clock.date.day += 1;
+    rubbish_files = 0;
+    Open();
+    ASSERT_EQ(house().queue.count(), static_cast<int>(waiting.size()));
+    for (int i = 0; i < house().queue.count(); ++i) {
+      ASSERT_EQ(house().queue.path(i), waiting[static_cast<size_t>(i)]);
+    }
+    ASSERT_EQ(house().credits.count(), 0);
+  }
+
+  std::mt19937 draw{20240115};
+  std::vector<std::string> paths;
+  int accepted = 0;
+  int rubbish_files = 0;
+};
+
+TEST_F(WeekTest, NoGuestCoinOrKeyBreaksTheJukebox) {
+  Open();
+  int selections = 0;
+  for (int day = 0; day < 7; ++day) {
+    for (int event = 0; event < 700; ++event) {
+      const int credits = house().credits.count();
+      accepted = 0;
+      const bool paused = house().playback.paused;
+      const int kind = Draw(20);
+      if (kind < 14) {
+        Touch();
+      } else if (kind < 17) {
+        PressKey();
+      } else if (kind < 18) {
+        DropSpoolFile();
+      } else {
+        PutCoin();
+        ASSERT_NO_FATAL_FAILURE(CheckWhatAlwaysHolds());
+        continue;
+      }
+      ASSERT_NO_FATAL_FAILURE(CheckWhatAlwaysHolds()) << "day " << day << ", event " << event;
+      // Credits fall only for something that was added or started, or dropped over a pause.
+      ASSERT_LE(house().credits.count(), credits);
+      if (house().credits.count() < credits) {
+        ASSERT_TRUE(accepted > 0 || paused);
+        ++selections;
+      }
+      LetTimePass(Draw(60));
+      if (event % 50 == 0) {
+        ASSERT_NO_FATAL_FAILURE(CheckNoSilence());
+      }
+    }
+    ASSERT_NO_FATAL_FAILURE(CloseAndReopen());
+  }
+  // The week was worth its name.
+  EXPECT_GT(selections, 100);
+  EXPECT_GT(FileLength(folder.path() + "\\User_history.dat") / 1070, 100);
+}
+
+}  // namespace
+}  // namespace sonotik
