@@ -11,6 +11,7 @@
 #include "desktop/mpv_player.h"
 #include "desktop/qt_machine.h"
 #include "desktop/signals.h"
+#include "desktop/x11_keys.h"
 #include "files/paths.h"
 #include "files/program_folder.h"
 #include "files/runtime_failure.h"
@@ -29,7 +30,7 @@ int RunJukebox(const std::string& app_path) {
   MersenneTwister random;
   QtEventLoop loop;
   Timers timers(clock);
-  NoKeys keys;
+  X11Keys keys(clock);
   QtDisplays displays;
   QtProcesses processes;
   QtMessageBox messages;

@@ -43,12 +43,6 @@ class QtEventLoop : public EventLoop {
   int exit_status_ = 0;
 };
 
-// Until keys are mapped, none is down.
-class NoKeys : public KeyState {
- public:
-  bool IsDown(int) override { return false; }
-};
-
 class QtDisplays : public Displays {
  public:
   // The window comes once there is one; until then what is asked of it is kept.
