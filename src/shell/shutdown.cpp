@@ -18,7 +18,6 @@ void Shutdown::TimedExit() {
   house_.machine.coins.CloseFeeder();
   house_.timer1.Retire();
   house_.state_timer.Retire();
-  house_.engine.CloseMedia();
   house_.machine.events.Leave(0);
 }
 
