@@ -37,8 +37,9 @@ void SettingsEffects::Apply(int row, bool changed) {
       break;
     case setting_row::kMainVolume:
       // The slider is what counts, and it keeps within its range.
+      house_.settings.main_volume =
+          std::clamp(house_.settings.main_volume, kLeastVolume, kMostVolume);
       house_.form1.volume.SetValue(house_.settings.main_volume);
-      house_.settings.main_volume = house_.form1.volume.value();
       break;
     case setting_row::kHideMouse:
       house_.machine.displays.SetMousePointerVisible(!house_.settings.hide_mouse);

@@ -1,6 +1,7 @@
 #include "tags/Infotag.h"
 
 #include "files/files.h"
+#include "tags/clsMP3HeadReader.h"
 #include "tags/clsWMAHeadReader.h"
 #include "text/text.h"
 
@@ -9,10 +10,11 @@ namespace sonotik {
 bool Infotag::Find_Header_Tags(std::string_view path) {
   record_ = InfotagRecord();
   const size_t dot = path.rfind('.');
-  const std::string extension = dot == path.npos ? "" : UpperCase(path.substr(dot + 1));
+  const std::string extension = dot == path.npos ? "" : UpperCase(TrimBlanks(path.substr(dot + 1)));
   if (extension == "MP3") {
-    // The place of clsMP3HeadReader: until it is there, an MP3 leaves the record empty here. All
-    // MP3s that exist are read by mdlID3 and never come this way.
+    clsMP3HeadReader reader(record_, message_);
+    reader.ReadMP3Header(path);
+    reader.LoadID3Info(path);
     return true;
   }
   if (extension == "WMA") {

@@ -9,6 +9,7 @@
 #include <string>
 #include <string_view>
 
+#include "tags/byte_source.h"
 #include "tags/infotag_record.h"
 
 namespace sonotik {
@@ -19,7 +20,10 @@ class clsWMAHeadReader {
   explicit clsWMAHeadReader(InfotagRecord& record) : record_(record) {}
 
   // Fills the record, which the caller has emptied. Throws RuntimeFailure if the file can't be
-  // opened or holds fewer than 5,000 bytes other than NUL behind its first ten.
+  // opened, if it holds fewer than 5,000 bytes other than NUL behind its first ten, and if a length
+  // or a figure isn't where it is looked for. Nothing else gets a turn meanwhile: two blocks of the
+  // file are soon read, and another reader would write into the same record.
+  void Get_WMA_Header(ByteSource& file);
   void Get_WMA_Header(std::string_view path);
 
   // Hours, minutes and seconds, two digits each. An hour counts 360 seconds here, and that stays:

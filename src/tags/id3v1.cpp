@@ -2,18 +2,18 @@
 
 #include <string>
 
+#include "tags/media_file.h"
 #include "text/text.h"
 
 namespace sonotik {
 
-bool HasID3v1Tag(MediaFile& file) {
-  return file.size() >= kID3v1Size && BeginsWith(file.Read(file.size() - kID3v1Size, 3), "TAG");
+bool HasID3v1Tag(ByteSource& file) {
+  return file.size() >= kID3v1Size && BeginsWith(file.Read<3>(file.size() - kID3v1Size), "TAG");
 }
 
-bool ReadID3v1Tag(std::string_view path, TagRecord& record) {
-  MediaFile file(path);
+bool ReadID3v1Tag(ByteSource& file, TagRecord& record) {
   if (!HasID3v1Tag(file)) return false;
-  const auto tag = file.Read(file.size() - kID3v1Size, kID3v1Size);
+  const auto tag = file.Read<kID3v1Size>(file.size() - kID3v1Size);
   const auto field = [&](size_t offset, size_t width) {
     return DecodeBytes(std::span(tag).subspan(offset, width), 0, true);
   };
@@ -31,6 +31,11 @@ bool ReadID3v1Tag(std::string_view path, TagRecord& record) {
   if (has_track) record.track = std::to_string(tag[126]);
   record.genre = GenreName(tag[127]);
   return true;
+}
+
+bool ReadID3v1Tag(std::string_view path, TagRecord& record) {
+  MediaFile file(path);
+  return ReadID3v1Tag(file, record);
 }
 
 }  // namespace sonotik

@@ -7,6 +7,7 @@
 
 #include "files/runtime_failure.h"
 #include "tags/id3v1.h"
+#include "tags/media_file.h"
 #include "text/numbers.h"
 #include "text/text.h"
 
@@ -57,30 +58,23 @@ constexpr TextFrame kTextFrames[] = {
     {"TCM", &TagRecord::composer},
 };
 
-// The body of a tag. `length` is what the header claims (less what unsynchronisation added); the
-// bytes themselves may be fewer, and the missing ones are zeros.
+// The body of a tag where it lies: in the file, or in memory where unsynchronisation had to be
+// undone over the whole of it. `length` is what the header claims (less what was undone); the bytes
+// themselves may be fewer, and the missing ones are zeros.
 struct TagBody {
-  std::vector<uint8_t> bytes;
-  int64_t length = 0;
-  int64_t footer = 0;
-  int version = 0;
-  bool unsync = false;
+  ByteSource& source;
+  int64_t start;
+  int64_t length;
+  int64_t footer;
+  int version;
+  bool unsync;
 
   template <size_t kCount>
   std::array<uint8_t, kCount> At(int64_t position) const {
     std::array<uint8_t, kCount> got{};
-    for (size_t i = 0; i < kCount; ++i) {
-      const size_t index = static_cast<size_t>(position) + i;
-      if (index < bytes.size()) got[i] = bytes[index];
-    }
+    const auto within = std::clamp<int64_t>(length - position, 0, kCount);
+    source.ReadInto(start + position, std::span(got).first(static_cast<size_t>(within)));
     return got;
-  }
-
-  std::span<uint8_t> Data(int64_t position, int64_t size) {
-    const int64_t there = static_cast<int64_t>(bytes.size());
-    const int64_t from = std::min(position, there);
-    return std::span(bytes).subspan(static_cast<size_t>(from),
-                                    static_cast<size_t>(std::min(size, there - from)));
   }
 };
 
@@ -99,44 +93,55 @@ std::string TextBehindDescription(std::span<const uint8_t> bytes, size_t start) 
   return DecodeBytes(Behind(bytes, skipped), encoding, true);
 }
 
-std::string FrameValue(TagBody& body, std::string_view id, int64_t position, int64_t size,
+std::string FrameValue(const TagBody& body, std::string_view id, int64_t position, int64_t size,
                        int flags) {
-  std::span<uint8_t> data = body.Data(position, size);
+  const bool v3 = body.version == 3;
+  const bool v4 = body.version == 4;
+  if ((v3 && flags & kV3Unreadable) || (v4 && flags & kV4Unreadable)) return "";
+  auto bytes = body.source.ReadAtMost(body.start + position, size);
+  std::span<uint8_t> data = bytes;
+  if (v4 && (flags & kV4Unsync || body.unsync)) data = data.first(data.size() - RemoveUnsync(data));
   size_t preceding = 0;
-  if (body.version == 3) {
-    if (flags & kV3Unreadable) return "";
-    preceding = flags & kV3Group ? 1 : 0;
-  } else if (body.version == 4) {
-    if (flags & kV4Unreadable) return "";
-    if (flags & kV4Unsync || body.unsync) data = data.first(data.size() - RemoveUnsync(data));
-    preceding = (flags & kV4Group ? 1 : 0) + (flags & kV4DataLength ? 4 : 0);
-  }
+  if (v3 && flags & kV3Group) preceding = 1;
+  if (v4) preceding = (flags & kV4Group ? 1 : 0) + (flags & kV4DataLength ? 4 : 0);
   return FrameText(Behind(data, preceding), id);
+}
+
+bool IsGenre(std::string_view id) { return id == "TCON" || id == "TCO"; }
+
+std::string TagRecord::*TextMember(std::string_view id) {
+  for (const TextFrame& frame : kTextFrames) {
+    if (frame.id == id) return frame.member;
+  }
+  return nullptr;
+}
+
+// What no field takes isn't read: a cover stays on the disk.
+bool IsWanted(std::string_view id) {
+  return id == "TDRC" || id == "SEEK" || IsGenre(id) || TextMember(id);
 }
 
 // An empty value replaces an earlier one too.
 void StoreValue(TagRecord& record, std::string_view id, const std::string& value) {
   if (id == "TDRC") {
     record.year = value.substr(0, 4);
-  } else if (id == "TCON" || id == "TCO") {
+  } else if (IsGenre(id)) {
     record.genre = ParseGenreRef(value);
-  } else {
-    for (const TextFrame& frame : kTextFrames) {
-      if (frame.id == id) record.*frame.member = value;
-    }
+  } else if (const auto member = TextMember(id)) {
+    record.*member = value;
   }
 }
 
 // Gives the distance from the end of the tag to the next one, where a SEEK frame tells it.
-std::optional<int64_t> WalkFrames(TagBody& body, int64_t position, TagRecord& record) {
+std::optional<int64_t> WalkFrames(const TagBody& body, int64_t position, TagRecord& record) {
   std::optional<int64_t> seek;
   const bool old = body.version == 2;
   const int64_t end = body.length - body.footer;
   const int64_t head_size = old ? 6 : kHeaderSize;
   while (position <= end - head_size) {
     const auto head = body.At<kHeaderSize>(position);
-    const std::string id(head.begin(), head.begin() + (old ? 3 : 4));
-    if (id.find_first_not_of('\0') == std::string::npos) break;
+    const std::string_view id(reinterpret_cast<const char*>(head.data()), old ? 3 : 4);
+    if (id.find_first_not_of('\0') == id.npos) break;
     position += head_size;
 
     const auto size_field = std::span(head).subspan<4, 4>();
@@ -149,13 +154,15 @@ std::optional<int64_t> WalkFrames(TagBody& body, int64_t position, TagRecord& re
       if (position > end - size) break;
     }
 
-    const std::string value = FrameValue(body, id, position, size, old ? 0 : head[9]);
-    position += size;
-    if (id == "SEEK") {
-      if (!value.empty()) seek = std::stoll(value);
-    } else {
-      StoreValue(record, id, value);
+    if (IsWanted(id)) {
+      const std::string value = FrameValue(body, id, position, size, old ? 0 : head[9]);
+      if (id != "SEEK") {
+        StoreValue(record, id, value);
+      } else if (!value.empty()) {
+        seek = std::stoll(value);
+      }
     }
+    position += size;
   }
   return seek;
 }
@@ -204,8 +211,7 @@ std::string ParseGenreRef(std::string_view text) {
   const bool bracketed = open != std::string_view::npos && close != std::string_view::npos;
   if (!bracketed || close <= open + 1) return std::string(text);
   const std::string_view reference = text.substr(open + 1, close - open - 1);
-  const auto number = ParseNumber(reference);
-  if (number && !TrimBlanks(reference).empty()) {
+  if (const auto number = TagNumber(reference)) {
     return GenreName(static_cast<int>(RoundHalfEven(std::clamp(*number, -1.0, 256.0))));
   }
   if (reference == "RX") return "Remix";
@@ -213,43 +219,44 @@ std::string ParseGenreRef(std::string_view text) {
   return std::string(text);
 }
 
-int64_t ParseID3v2Block(MediaFile& file, int64_t offset, TagRecord& record) {
-  const auto header = file.Read(offset, kHeaderSize);
-  TagBody body;
-  body.version = header[3];
-  if (body.version < 2 || body.version > 4) return -1;
+int64_t ParseID3v2Block(ByteSource& file, int64_t offset, TagRecord& record) {
+  const auto header = file.Read<kHeaderSize>(offset);
+  const int version = header[3];
+  if (version < 2 || version > 4) return -1;
   const int flags = header[5];
-  body.unsync = flags >= 128;
-  body.footer = body.version == 4 && flags & kFooterPresent ? kHeaderSize : 0;
-  body.length = ReadSizeField(std::span(header).subspan<6, 4>(), true) + body.footer;
-  if (body.length == 0) throw RuntimeFailure("an ID3 tag of size 0");
+  const bool unsync = flags >= 128;
+  const int64_t footer = version == 4 && flags & kFooterPresent ? kHeaderSize : 0;
+  int64_t length = ReadSizeField(std::span(header).subspan<6, 4>(), true) + footer;
+  if (length == 0) throw RuntimeFailure("an ID3 tag of size 0");
 
   const int64_t data = offset + kHeaderSize;
-  const int64_t there = std::max<int64_t>(0, file.size() - data);
-  body.bytes = file.Read(data, std::min(body.length, there));
-  if (body.unsync && body.version < 4) {
-    const size_t removed = RemoveUnsync(body.bytes);
-    body.bytes.resize(body.bytes.size() - removed);
-    body.length -= static_cast<int64_t>(removed);
+  const bool whole = unsync && version < 4;
+  std::vector<uint8_t> undone;
+  if (whole) {
+    undone = file.ReadAtMost(data, length);
+    const size_t removed = RemoveUnsync(undone);
+    undone.resize(undone.size() - removed);
+    length -= static_cast<int64_t>(removed);
   }
+  MemorySource memory(undone);
+  const TagBody body = whole ? TagBody{memory, 0, length, footer, version, unsync}
+                             : TagBody{file, data, length, footer, version, unsync};
 
   int64_t start = 0;
   bool update = false;
-  if (body.version > 2 && flags & kExtendedHeader) {
-    start = ReadSizeField(body.At<4>(0), body.version == 4);
-    if (body.version == 3) start += 4;
-    update = body.version == 4 && body.At<1>(5)[0] & kUpdate;
+  if (version > 2 && flags & kExtendedHeader) {
+    start = ReadSizeField(body.At<4>(0), version == 4);
+    if (version == 3) start += 4;
+    update = version == 4 && body.At<1>(5)[0] & kUpdate;
   }
   if (!update) ClearTagRecord(record);
   const auto seek = WalkFrames(body, start, record);
-  return seek ? *seek + data + body.length : -1;
+  return seek ? *seek + data + length : -1;
 }
 
-bool ReadID3v2Tag(std::string_view path, TagRecord& record) {
-  MediaFile file(path);
-  if (!file.open()) return false;
+bool ReadID3v2Tag(ByteSource& file, TagRecord& record) {
   bool found = false;
-  for (int64_t at = 0; at >= 0 && BeginsWith(file.Read(at, 3), "ID3");) {
+  for (int64_t at = 0; at >= 0 && BeginsWith(file.Read<3>(at), "ID3");) {
     at = ParseID3v2Block(file, at, record);
     found = true;
   }
@@ -257,7 +264,7 @@ bool ReadID3v2Tag(std::string_view path, TagRecord& record) {
 
   const int64_t end = file.size() - (HasID3v1Tag(file) ? kID3v1Size : 0);
   if (end < kHeaderSize) return false;
-  const auto footer = file.Read(end - kHeaderSize, kHeaderSize);
+  const auto footer = file.Read<kHeaderSize>(end - kHeaderSize);
   if (!BeginsWith(footer, "3DI")) return false;
   const int64_t size = ReadSizeField(std::span(footer).subspan<6, 4>(), true);
   const int64_t start = end - kHeaderSize - size - kHeaderSize;
@@ -266,8 +273,13 @@ bool ReadID3v2Tag(std::string_view path, TagRecord& record) {
   return true;
 }
 
-int64_t ID3v2DataStart(MediaFile& file, int64_t offset) {
-  const auto header = file.Read(offset, kHeaderSize);
+bool ReadID3v2Tag(std::string_view path, TagRecord& record) {
+  MediaFile file(path);
+  return ReadID3v2Tag(file, record);
+}
+
+int64_t ID3v2DataStart(ByteSource& file, int64_t offset) {
+  const auto header = file.Read<kHeaderSize>(offset);
   if (!BeginsWith(header, "ID3")) return 0;
   const bool footer = header[3] >= 4 && header[5] & kFooterPresent;
   return ReadSizeField(std::span(header).subspan<6, 4>(), true) + kHeaderSize +

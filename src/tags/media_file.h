@@ -3,35 +3,42 @@
 #ifndef SONOTIK_TAGS_MEDIA_FILE_H_
 #define SONOTIK_TAGS_MEDIA_FILE_H_
 
+#include <array>
 #include <cstdint>
 #include <fstream>
 #include <span>
 #include <string_view>
-#include <vector>
+
+#include "tags/byte_source.h"
 
 namespace sonotik {
 
-class MediaFile {
+// The readers take bites of a few bytes from three places of a file: its start, the first frame of
+// its sound and its end. A block around each is kept, so that every place is read once.
+class MediaFile : public ByteSource {
  public:
   // A file that isn't there, or is no plain file, is not open and has the size 0.
   explicit MediaFile(std::string_view path);
 
-  bool open() const { return stream_.is_open(); }
-  int64_t size() const { return size_; }
-
-  // Exactly `count` bytes, zeros where the file has none (behind its end, before its start). The
-  // caller keeps `count` within reason: it is allocated.
-  std::vector<uint8_t> Read(int64_t offset, int64_t count);
+  bool open() const { return file_.is_open(); }
+  int64_t size() const override { return size_; }
 
  private:
-  std::ifstream stream_;
+  static constexpr int64_t kBlockSize = 4096;
+  struct Block {
+    int64_t number = -1;
+    std::array<uint8_t, kBlockSize> bytes;
+  };
+
+  void Fetch(int64_t offset, std::span<uint8_t> bytes) override;
+  void ReadFromDisk(int64_t offset, std::span<uint8_t> bytes);
+  const Block& BlockWith(int64_t offset);
+
+  std::filebuf file_;
   int64_t size_ = 0;
+  std::array<Block, 4> blocks_;
+  size_t next_block_ = 0;
 };
-
-bool BeginsWith(std::span<const uint8_t> bytes, std::string_view mark);
-
-// An unsigned big-endian number of all the bytes, at most four.
-uint32_t BigEndian(std::span<const uint8_t> bytes);
 
 }  // namespace sonotik
 

@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "files/runtime_failure.h"
-#include "tags/media_file.h"
 
 namespace sonotik {
 namespace {
@@ -15,10 +14,8 @@ constexpr size_t kNameToValue = 3 + 4 * 4;
 
 }  // namespace
 
-AtomFrame::AtomFrame(std::string_view path) : text_(kFrameLength, ' ') {
-  MediaFile file(path);
-  if (!file.open()) throw RuntimeFailure("cannot open " + std::string(path));
-  const auto bytes = file.Read(0, std::min<int64_t>(file.size(), kFrameLength));
+AtomFrame::AtomFrame(ByteSource& file) : text_(kFrameLength, ' ') {
+  const auto bytes = file.ReadAtMost(0, kFrameLength);
   std::copy(bytes.begin(), bytes.end(), text_.begin());
 }
 

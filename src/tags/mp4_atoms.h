@@ -7,14 +7,15 @@
 #include <string>
 #include <string_view>
 
+#include "tags/byte_source.h"
+
 namespace sonotik {
 
 // The first 65,536 bytes of a file as text, blanks behind the end of a shorter one. The box tree
 // isn't walked: one read and a search for the names is what makes browsing albums quick.
 class AtomFrame {
  public:
-  // Throws RuntimeFailure if the file can't be opened.
-  explicit AtomFrame(std::string_view path);
+  explicit AtomFrame(ByteSource& file);
 
   // The position of an atom's name, counted from 1; 0 if there is none. Positions below 30,000
   // aren't seen.

@@ -1,7 +1,6 @@
 #include "tags/mpeg_info.h"
 
 #include <algorithm>
-#include <array>
 #include <cstring>
 #include <optional>
 
@@ -9,25 +8,13 @@
 #include "tags/id3v1.h"
 #include "tags/mdlID3.h"
 #include "tags/media_file.h"
+#include "tags/mpeg_tables.h"
 #include "text/numbers.h"
 
 namespace sonotik {
 namespace {
 
 constexpr int64_t kSearchBlock = 65536;
-
-// kbit/s by the bit-rate index; the indices 0 (free format) and 15 (forbidden) have none.
-using Rates = std::array<int, 16>;
-constexpr Rates kVersion1Layer1 = {0,   32,  64,  96,  128, 160, 192, 224,
-                                   256, 288, 320, 352, 384, 416, 448, 0};
-constexpr Rates kVersion1Layer2 = {0,   32,  48,  56,  64,  80,  96,  112,
-                                   128, 160, 192, 224, 256, 320, 384, 0};
-constexpr Rates kVersion1Layer3 = {0,   32,  40,  48,  56,  64,  80,  96,
-                                   112, 128, 160, 192, 224, 256, 320, 0};
-constexpr Rates kVersion2Layer1 = {0,   32,  48,  56,  64,  80,  96,  112,
-                                   128, 144, 160, 176, 192, 224, 256, 0};
-constexpr Rates kVersion2Layers23 = {0,  8,  16, 24,  32,  40,  48,  56,
-                                     64, 80, 96, 112, 128, 144, 160, 0};
 
 // By the two version bits and the two layer bits; an empty name marks a reserved value.
 struct Version {
@@ -37,29 +24,23 @@ struct Version {
 constexpr Version kVersions[] = {{"version 2.5", 4}, {"", 1}, {"version 2", 2}, {"version 1", 1}};
 
 struct Layer {
-  int number;  // 0 is reserved
+  size_t number;  // 0 is reserved
   int samples_version1;
   int samples_version2;
-  const Rates& rates_version1;
-  const Rates& rates_version2;
 };
-constexpr Layer kLayers[] = {
-    {0, 0, 0, kVersion1Layer1, kVersion2Layer1},
-    {3, 1152, 576, kVersion1Layer3, kVersion2Layers23},
-    {2, 1152, 1152, kVersion1Layer2, kVersion2Layers23},
-    {1, 384, 384, kVersion1Layer1, kVersion2Layer1},
-};
+constexpr Layer kLayers[] = {{0, 0, 0}, {3, 1152, 576}, {2, 1152, 1152}, {1, 384, 384}};
 
 constexpr int kSampleRates[] = {44100, 48000, 32000, 0};
 constexpr std::string_view kChannelModes[] = {"Stereo", "Joint stereo", "Dual channel", "Mono"};
 constexpr int kMono = 3;
 
 // The eleven set bits are all that is looked at: a false sync in a picture or in padding is taken
-// as it comes. The first position is looked at even if it lies behind the last possible one.
-std::optional<int64_t> FindFrame(MediaFile& file, int64_t at) {
-  const int64_t last = std::max(at, file.size() - 4);
-  while (at <= last) {
-    const auto block = file.Read(at, std::min(kSearchBlock, last - at + 2));
+// as it comes.
+std::optional<int64_t> FindFrame(ByteSource& file, int64_t at) {
+  const int64_t last = file.size() - 4;
+  // Mostly a frame stands right at the start.
+  for (int64_t length = 2; at <= last; length = kSearchBlock) {
+    const auto block = file.ReadAtMost(at, std::min(length, last - at + 2));
     const uint8_t* const end = block.data() + block.size() - 1;
     for (const uint8_t* byte = block.data(); byte < end; ++byte) {
       byte = static_cast<const uint8_t*>(std::memchr(byte, 0xFF, static_cast<size_t>(end - byte)));
@@ -76,9 +57,9 @@ struct Counts {
   double bytes = 0;
 };
 
-Counts ReadCounts(MediaFile& file, int64_t xing_position, int64_t vbri_position) {
+Counts ReadCounts(ByteSource& file, int64_t xing_position, int64_t vbri_position) {
   Counts counts;
-  const auto xing = file.Read(xing_position, 16);
+  const auto xing = file.Read<16>(xing_position);
   if (BeginsWith(xing, "Xing") || BeginsWith(xing, "Info")) {
     if (xing[7] & 1) {
       counts.frames = BigEndian(std::span(xing).subspan(8, 4));
@@ -86,7 +67,7 @@ Counts ReadCounts(MediaFile& file, int64_t xing_position, int64_t vbri_position)
       if (xing[7] & 2) counts.bytes = BigEndian(std::span(xing).subspan(12, 4));
     }
   }
-  const auto vbri = file.Read(vbri_position, 18);
+  const auto vbri = file.Read<18>(vbri_position);
   if (BeginsWith(vbri, "VBRI")) {
     counts.bytes = BigEndian(std::span(vbri).subspan(10, 4));
     counts.frames = BigEndian(std::span(vbri).subspan(14, 4));
@@ -97,8 +78,8 @@ Counts ReadCounts(MediaFile& file, int64_t xing_position, int64_t vbri_position)
 int64_t Rounded(double value) { return static_cast<int64_t>(RoundHalfEven(value)); }
 
 // A reserved version or layer ends the analysis: the search isn't taken up again behind it.
-bool ReadFrame(MediaFile& file, int64_t at, MpegInfo& info) {
-  const auto head = file.Read(at, 4);
+bool ReadFrame(ByteSource& file, int64_t at, MpegInfo& info) {
+  const auto head = file.Read<4>(at);
   const Version& version = kVersions[head[1] >> 3 & 3];
   const Layer& layer = kLayers[head[1] >> 1 & 3];
   if (version.name.empty() || layer.number == 0) return false;
@@ -120,7 +101,8 @@ bool ReadFrame(MediaFile& file, int64_t at, MpegInfo& info) {
     info.Bitrate = Rounded(counts.bytes / counts.frames / samples / 125 * rate);
     info.Seconds = Rounded(counts.frames / rate * samples);
   } else {
-    info.Bitrate = (version1 ? layer.rates_version1 : layer.rates_version2)[head[2] >> 4];
+    info.Bitrate =
+        (version1 ? kBitRatesOfVersion1 : kBitRatesOfVersion2)[layer.number][head[2] >> 4];
     if (info.Bitrate > 0) {
       // All that follows counts as audio, a tag at the end included.
       info.Seconds =
@@ -136,9 +118,7 @@ bool ReadFrame(MediaFile& file, int64_t at, MpegInfo& info) {
 
 }  // namespace
 
-bool ReadMpegInfo(std::string_view path, MpegInfo& info) {
-  MediaFile file(path);
-  if (!file.open()) return false;
+bool ReadMpegInfo(ByteSource& file, MpegInfo& info) {
   const int64_t start = ID3v2DataStart(file, 0);
   if (file.size() < 4) return false;
   const auto frame = FindFrame(file, start);
@@ -146,13 +126,18 @@ bool ReadMpegInfo(std::string_view path, MpegInfo& info) {
 
   info.ID3v1Kind = -1;
   if (HasID3v1Tag(file)) {
-    const auto end = file.Read(file.size() - kID3v1Size + 125, 2);
+    const auto end = file.Read<2>(file.size() - kID3v1Size + 125);
     info.ID3v1Kind = end[0] == 0 && end[1] != 0 ? 1 : 0;
   }
-  const auto header = file.Read(0, 10);
+  const auto header = file.Read<10>(0);
   info.ID3v2Version = BeginsWith(header, "ID3") ? header[3] : -1;
   info.FileSize = file.size();
   return usable;
+}
+
+bool ReadMpegInfo(std::string_view path, MpegInfo& info) {
+  MediaFile file(path);
+  return ReadMpegInfo(file, info);
 }
 
 }  // namespace sonotik

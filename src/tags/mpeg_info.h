@@ -8,6 +8,8 @@
 #include <string>
 #include <string_view>
 
+#include "tags/byte_source.h"
+
 namespace sonotik {
 
 struct MpegInfo {
@@ -30,6 +32,7 @@ struct MpegInfo {
 // if the file can't be opened or has fewer than 4 bytes. Without a usable header the tag kinds and
 // the size are filled all the same. Throws RuntimeFailure for a size field of an ID3v2 tag that
 // overflows, and for frame counts beside the reserved sample rate.
+bool ReadMpegInfo(ByteSource& file, MpegInfo& info);
 bool ReadMpegInfo(std::string_view path, MpegInfo& info);
 
 }  // namespace sonotik

@@ -2,17 +2,17 @@
 
 #include <string>
 #include <utility>
-#include <vector>
 
 #include "files/files.h"
-#include "files/line_format.h"
 #include "files/paths.h"
 #include "files/runtime_failure.h"
 #include "tags/Infotag.h"
 #include "tags/id3v1.h"
 #include "tags/mdlID3.h"
+#include "tags/media_file.h"
 #include "tags/mp4_atoms.h"
 #include "tags/mpeg_info.h"
+#include "tags/sidecar.h"
 #include "text/dates.h"
 #include "text/text.h"
 
@@ -46,22 +46,6 @@ constexpr Dispatch kDispatch[] = {
     {TagCaller::kQueueUpl, kTag, kTag2, kTag3, kTag3},
 };
 
-// What of a sidecar goes where. An element's wrapping goes by its length; its name isn't looked at.
-struct SidecarLine {
-  size_t line;  // from 0
-  size_t front;
-  std::string TagFields::*field;
-};
-
-constexpr SidecarLine kSidecarLines[] = {
-    {1, 8, &TagFields::txtArtist},    {2, 7, &TagFields::txtTitle},
-    {3, 7, &TagFields::txtAlbum},     {4, 6, &TagFields::txtComposer},
-    {5, 7, &TagFields::txtTrack},     {6, 6, &TagFields::txtYear},
-    {7, 7, &TagFields::txtGenre},     {8, 14, nullptr},  // has to be long enough, and goes nowhere
-    {9, 13, &TagFields::txtComments}, {11, 10, &TagFields::txtmp3time},
-};
-constexpr size_t kSidecarLength = 13;
-
 }  // namespace
 
 TagReader::TagReader(TagFields& fields, std::function<bool()> use_filename_if_no_tag_found)
@@ -80,6 +64,8 @@ void TagReader::ReadFor(TagCaller caller, std::string_view path) {
 }
 
 void TagReader::Readtag(std::string_view path) {
+  CurrentTagFile_ = path;
+  MediaFile file(path);
   TagRecord record;
   const auto copy_names = [&] {
     fields_.txtArtist = record.artist;
@@ -89,13 +75,13 @@ void TagReader::Readtag(std::string_view path) {
     fields_.txtYear = record.year;
     fields_.txtComments = record.comment;
   };
-  ReadID3v1Tag(path, record);
+  ReadID3v1Tag(file, record);
   copy_names();
 
   // No fall-back: a file without an ID3v2 tag ends with empty fields, and that is meant. The
   // catalogue has its names. What ID3v1 gave stays only if reading ID3v2 fails.
   ClearTagRecord(record);
-  ReadID3v2Tag(path, record);
+  ReadID3v2Tag(file, record);
   copy_names();
   fields_.txtComposer = record.composer;
   fields_.txtOrigArtist = record.original_artist;
@@ -105,13 +91,15 @@ void TagReader::Readtag(std::string_view path) {
   fields_.txtGenre = record.genre;
 
   MpegInfo info;
-  ReadMpegInfo(path, info);
+  ReadMpegInfo(file, info);
   fields_.txtmp3time = MinutesSeconds(static_cast<double>(info.Seconds));
   DoubleNames();
 }
 
 void TagReader::Readtag2(std::string_view path) {
-  const AtomFrame atoms(path);
+  MediaFile file(path);
+  if (!file.open()) throw RuntimeFailure("cannot open " + std::string(path));
+  const AtomFrame atoms(file);
   const auto value = [&](std::string_view name) { return atoms.getItemData(atoms.Find(name)); };
   fields_.txtTitle = value("nam");
   fields_.txtArtist = value("ART");
@@ -154,19 +142,7 @@ void TagReader::ReadTagSidecar(std::string_view path) {
   // A path too short to have an extension leaves all standing.
   if (media.size() <= 4) return;
 
-  LineReader reader(ReadWholeFile(sidecar));
-  std::vector<std::string> lines;
-  while (lines.size() < kSidecarLength) lines.push_back(reader.Next());
-  for (const SidecarLine& element : kSidecarLines) {
-    const std::string_view line = TrimBlanks(lines[element.line]);
-    const size_t wrapping = element.front + element.front + 1;
-    if (line.size() < wrapping) {
-      throw RuntimeFailure("line " + std::to_string(element.line + 1) + " is too short in " +
-                           sidecar);
-    }
-    if (!element.field) continue;
-    fields_.*element.field = line.substr(element.front, line.size() - wrapping);
-  }
+  ReadSidecarText(ReadWholeFile(sidecar), fields_);
 }
 
 void TagReader::SetNoTag(std::string_view title) {

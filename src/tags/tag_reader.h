@@ -4,6 +4,7 @@
 #define SONOTIK_TAGS_TAG_READER_H_
 
 #include <functional>
+#include <string>
 #include <string_view>
 
 #include "tags/infotag_record.h"
@@ -49,9 +50,11 @@ class TagReader {
   void Readtag3(std::string_view path);
 
   // The text file beside a media file, its name and ".tag", one element on each of 13 lines; the
-  // path may name either of the two. Throws RuntimeFailure for fewer lines, and for a line shorter
-  // than its element's wrapping.
+  // path may name either of the two. Throws RuntimeFailure as ReadSidecarText does.
   void ReadTagSidecar(std::string_view path);
+
+  // The path that Readtag was last asked for.
+  const std::string& CurrentTagFile() const { return CurrentTagFile_; }
 
  private:
   void SetNoTag(std::string_view title);
@@ -60,6 +63,7 @@ class TagReader {
   TagFields& fields_;
   std::function<bool()> use_filename_if_no_tag_found_;
   InfotagRecord infotag_;
+  std::string CurrentTagFile_;
 };
 
 }  // namespace sonotik

@@ -2,7 +2,9 @@
 
 #include <array>
 #include <cstddef>
-#include <string_view>
+
+#include "text/numbers.h"
+#include "text/text.h"
 
 namespace sonotik {
 namespace {
@@ -175,6 +177,12 @@ std::string DecodeBytes(std::span<const uint8_t> bytes, int encoding, bool stop_
     text += static_cast<char>(byte);
   }
   return text;
+}
+
+std::optional<double> TagNumber(std::string_view text) {
+  text = TrimBlanks(text);
+  if (text.empty() || text.find_first_not_of("+-.0123456789") != text.npos) return {};
+  return ParseNumber(text);
 }
 
 std::string GenreName(int number) {

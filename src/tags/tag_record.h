@@ -4,8 +4,10 @@
 #define SONOTIK_TAGS_TAG_RECORD_H_
 
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <string>
+#include <string_view>
 
 namespace sonotik {
 
@@ -31,6 +33,10 @@ void ClearTagRecord(TagRecord& record);
 // bytes, the high ones of big-endian UTF-16. Any other gives an empty text. A byte 13 is dropped, a
 // byte 10 becomes CR LF. With `stop_at_nul` the first NUL among the bytes taken ends the text.
 std::string DecodeBytes(std::span<const uint8_t> bytes, int encoding, bool stop_at_nul);
+
+// A number as tags write one: a sign, digits and a decimal point, blanks around it. Nothing for any
+// other text, an empty one and one with an exponent among them.
+std::optional<double> TagNumber(std::string_view text);
 
 // Genre 0 to 147 of ID3v1 with its customary extensions; empty for any other number.
 std::string GenreName(int number);

@@ -114,10 +114,11 @@ TEST(Id3v2, DecodesBytesByTheEncodingByte) {
       {"TCON", Tag(3, 0, Frame3("TCON", Latin("(40)"))), "Alt. Rock", &TagRecord::genre},
   });
   const std::vector<std::pair<std::string, std::string>> genres = {
-      {"(RX)", "Remix"}, {"(CR)", "Cover"}, {"(13)", "Pop"}, {"(17)Other", "Rock"},
-      {"(200)", ""},     {"(-1)", ""},      {"(1e300)", ""}, {"(147)", "SynthPop"},
-      {"Pop", "Pop"},    {"17", "17"},      {"()", "()"},    {"( )", "( )"},
-      {")17(", ")17("},  {"(x)", "(x)"}};
+      {"(RX)", "Remix"},   {"(CR)", "Cover"}, {"(13)", "Pop"},        {"(17)Other", "Rock"},
+      {"(200)", ""},       {"(-1)", ""},      {"(1e3)", "(1e3)"},     {"(147)", "SynthPop"},
+      {"Pop", "Pop"},      {"17", "17"},      {"()", "()"},           {"( )", "( )"},
+      {")17(", ")17("},    {"(x)", "(x)"},    {"( +12.5 )", "Other"}, {"(-0.4)", "Blues"},
+      {"(0x11)", "(0x11)"}};
   for (const auto& [text, genre] : genres) EXPECT_EQ(ParseGenreRef(text), genre) << text;
 }
 

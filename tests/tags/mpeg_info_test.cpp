@@ -21,12 +21,7 @@ TEST(MpegInfo, FiguresOfTheFirstFrame) {
   const std::string body(160000, 'x');  // ten seconds at 128 kbit/s
   const std::string vbri = Zeros(7) + "VBRI" + Zeros(6) + Big(500000) + Big(1000);
   const std::string in_tag = Tag(4, 0x10, kFrame) + "\xFF\xFBin footer";
-  struct Case {
-    const char* what;
-    std::string file;
-    std::string figures;
-  };
-  const Case cases[] = {
+  const Row cases[] = {
       {"constant", kFrame + body, "version 1 layer 3 128 44100 10 s"},
       {"Info", head + Xing("Info", 3, 1000, 500000), "version 1 layer 3 153 44100 26 s vbr"},
       {"no frame count", head + Xing("Xing", 2, 9, 9) + body, "version 1 layer 3 128 44100 10 s"},
@@ -44,13 +39,13 @@ TEST(MpegInfo, FiguresOfTheFirstFrame) {
       {"in the last three bytes", std::string(70000, 'x') + "\xFF\xFB\x90", "none 0 0 0 s"},
   };
   const Scratch scratch;
-  for (const Case& c : cases) {
+  for (const Row& c : cases) {
     MpegInfo info;
     const bool usable = ReadMpegInfo(scratch.Put("a.mp3", c.file), info);
     EXPECT_EQ((usable ? info.Version : "none") + " " + std::to_string(info.Bitrate) + " " +
                   std::to_string(info.SampleRate) + " " + std::to_string(info.Seconds) + " s" +
                   (info.IsVbr ? " vbr" : ""),
-              c.figures)
+              c.expected)
         << c.what;
     EXPECT_EQ(info.FileSize, static_cast<int64_t>(c.file.size())) << c.what;
   }

@@ -2,14 +2,13 @@
 #ifndef SONOTIK_TESTS_TAGS_TAG_BYTES_H_
 #define SONOTIK_TESTS_TAGS_TAG_BYTES_H_
 
-#include <unistd.h>
-
 #include <filesystem>
-#include <fstream>
+#include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
-#include "files/paths.h"
+#include "support/temp_folder.h"
 
 namespace sonotik {
 
@@ -52,30 +51,47 @@ inline std::string Id3v1(const std::string& title, const std::string& end) {
   return "TAG" + title + Zeros(122 - title.size()) + end;
 }
 
-class Scratch {
- public:
-  Scratch() {
-    static int count = 0;
-    folder_ = std::filesystem::temp_directory_path() /
-              ("sonotik_tags_" + std::to_string(::getpid()) + "_" + std::to_string(++count));
-    std::filesystem::create_directories(folder_);
-  }
-  ~Scratch() {
-    std::error_code error;
-    std::filesystem::remove_all(folder_, error);
-  }
-  Scratch(const Scratch&) = delete;
-  Scratch& operator=(const Scratch&) = delete;
+inline const std::string kSidecar =
+    "<song>\n  <artist>A & B</artist> \n<title>T&</title>\n<album>Al</album>\n<comp>Co</comp>\n"
+    "<track>3/12</track>\n<year>1984</year>\n<genre>Soul</genre>\n<originalname></originalname>\n"
+    "<description>Fine</description>\n\n<duration>3:07</duration>\n</song>\n";
 
-  std::filesystem::path Native(const std::string& name) const { return folder_ / name; }
+// A WMA: the content description with its strings, then what is left of the header.
+inline std::string Wma(const std::string& object_size, const std::vector<std::string>& strings) {
+  std::string file = std::string(30, 'h') + "\x33\x26\xB2\x75\x8E\x66\xCF\x11\xA6\xD9" +
+                     Bytes("\0\xAA\0\x62\xCE\x6C") + object_size + Zeros(6);
+  for (const std::string& text : strings) file += {static_cast<char>(2 * text.size() + 2), '\0'};
+  for (const std::string& text : strings) file += Wide(text + '\0');
+  return file + "\x40\xA4\xD0\xD2" +
+         Wide("128 kbps, 44 kHz, stereo WM/Year\n1999WM/AlbumTitle\6Al") + std::string(5100, '.');
+}
+
+inline std::string Atom(const std::string& name, const std::string& value) {
+  return name + Big(16 + value.size()) + "data" + Big(1) + Big(0) + value + '\0';
+}
+inline std::string M4a(const std::string& atoms, size_t at = 30000) {
+  return Zeros(4) + "ftypM4A " + Zeros(4) + "mpM4A mp42" + Zeros(at - 26) + atoms;
+}
+
+inline std::span<const uint8_t> AsBytes(std::string_view text) {
+  return {reinterpret_cast<const uint8_t*>(text.data()), text.size()};
+}
+
+// A row of a table: what it is about, a whole file, and what is to be read of it.
+struct Row {
+  const char* what;
+  std::string file;
+  std::string expected;
+};
+
+class Scratch : public TempFolder {
+ public:
+  std::filesystem::path Native(const std::string& name) const { return native() / name; }
   std::string Path(const std::string& name) const { return ProgramPath(Native(name)); }
   std::string Put(const std::string& name, std::string_view bytes) const {
-    std::ofstream(Native(name), std::ios::binary) << bytes;
+    Write(name, bytes);
     return Path(name);
   }
-
- private:
-  std::filesystem::path folder_;
 };
 
 }  // namespace sonotik

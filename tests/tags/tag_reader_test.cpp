@@ -30,28 +30,6 @@ class TagReaders : public testing::Test {
   TagReader reader{fields, [this] { return use_filename; }};
 };
 
-const std::string kSidecar =
-    "<song>\n  <artist>A & B</artist> \n<title>T&</title>\n<album>Al</album>\n<comp>Co</comp>\n"
-    "<track>3/12</track>\n<year>1984</year>\n<genre>Soul</genre>\n<originalname></originalname>\n"
-    "<description>Fine</description>\n\n<duration>3:07</duration>\n</song>\n";
-
-// The content description with its strings, then what is left of the header.
-std::string Wma(const std::string& object_size, const std::vector<std::string>& strings) {
-  std::string file = std::string(30, 'h') + "\x33\x26\xB2\x75\x8E\x66\xCF\x11\xA6\xD9" +
-                     Bytes("\0\xAA\0\x62\xCE\x6C") + object_size + Zeros(6);
-  for (const std::string& text : strings) file += {static_cast<char>(2 * text.size() + 2), '\0'};
-  for (const std::string& text : strings) file += Wide(text + '\0');
-  return file + "\x40\xA4\xD0\xD2" +
-         Wide("128 kbps, 44 kHz, stereo WM/Year\n1999WM/AlbumTitle\6Al") + std::string(5100, '.');
-}
-
-std::string Atom(const std::string& name, const std::string& value) {
-  return name + Big(16 + value.size()) + "data" + Big(1) + Big(0) + value + '\0';
-}
-std::string M4a(const std::string& atoms, size_t at = 30000) {
-  return Zeros(4) + "ftypM4A " + Zeros(4) + "mpM4A mp42" + Zeros(at - 26) + atoms;
-}
-
 TEST_F(TagReaders, EveryCallerKeepsItsOwnWays) {
   const std::pair<TagCaller, std::string> rows[] = {
       {TagCaller::kAddQueue, "1333"},       {TagCaller::kTrackList, "1223"},
@@ -72,9 +50,10 @@ TEST_F(TagReaders, EveryCallerKeepsItsOwnWays) {
     }
     EXPECT_EQ(used, expected) << static_cast<int>(caller);
   }
-  // The kind is told before anything is trimmed.
+  // The callers tell the kind before anything is trimmed, the last reader in the row after.
   reader.ReadFor(TagCaller::kTrackList, scratch.Path("a.Mp3") + " ");
-  EXPECT_EQ(fields.txtTitle, kNoTag);
+  EXPECT_EQ(fields.txtTitle + fields.txtTrack + reader.CurrentTagFile(),
+            "3/12" + scratch.Path("a.Mp3"));
 }
 
 TEST_F(TagReaders, ReadtagTakesId3v2OrNothing) {
@@ -87,6 +66,8 @@ TEST_F(TagReaders, ReadtagTakesId3v2OrNothing) {
   }
   reader.Readtag(scratch.Put("a.mp3", Tag(3, 0, frames) + audio));
   EXPECT_EQ(All(), "TPE1&&|TALB&|TIT2&&|TRCK&|TYER&|Co|TCOM&|TOPE&|TCOP&|www|TENC&|Rock|3:05|");
+  reader.Readtag(UpperCase(scratch.Path("a.mp3")));
+  EXPECT_EQ(fields.txtAlbum, "TALB&");
   reader.Readtag(scratch.Put("b.mp3", audio));
   EXPECT_EQ(All(), "||||||||||||3:05|");
   reader.Readtag(scratch.Path("none.mp3"));
@@ -121,8 +102,10 @@ TEST_F(TagReaders, BrokenSidecarsAreFailures) {
   scratch.Put("clip.mpg.tag", ReplaceAll(kSidecar, "</originalname>", "</originalnam>"));
   EXPECT_THROW(reader.Readtag3(path), RuntimeFailure);
   EXPECT_EQ(All(), "A & B|Al|T&|3/12|1984|was|Co|was|was|was|was|Soul||");
+  // All fields are set by the time that the thirteenth line is missed.
   scratch.Put("clip.mpg.tag", ReplaceAll(kSidecar, "</song>\n", ""));
   EXPECT_THROW(reader.Readtag3(path), RuntimeFailure);
+  EXPECT_EQ(All(), "A & B|Al|T&|3/12|1984|Fine|Co|was|was|was|was|Soul|3:07|");
 }
 
 TEST_F(TagReaders, NoTagAndTheNameInItsPlace) {
@@ -153,11 +136,20 @@ TEST_F(TagReaders, WmaNamesAreFoundByTheirLengths) {
       {Wma("\x50\3", {"Song", "Band", "(c)"}), "|Al||was|1999|"},
       {Wma(size, {}), "|Al||was|1999|"},
       {unlike, "|Al||was|1999|"},  // a letter above 255 upsets the lengths
-      {std::string(4000, 'x') + "WM/Year\1x" + std::string(2000, 'x'), "|||was||"},
-      {std::string(5003, 'x') + "WM/Year", "|||was||"}};
+      {std::string(4000, 'x') + "WM/Year\3x" + std::string(2000, 'x'), "|||was|x|"}};
   for (const auto& [file, expected] : rows) {
     reader.Readtag3(scratch.Put("a.wma", file));
     EXPECT_EQ(All().substr(0, expected.size() + 25), expected + "|was|was|was|was|was|was|");
+  }
+}
+
+TEST_F(TagReaders, WmaFiguresOutOfTheirPlacesAreFailures) {
+  const std::string fill(5100, '.');
+  for (const std::string& text :
+       {Zeros(10) + "12 kbps", Zeros(10) + "1,00khz", "0123456789WM/Year\1x" + fill,
+        "0123456789WM/AlbumTitle\1x" + fill, Wma("\x50\1", {}),
+        std::string(5003, 'x') + "WM/Year"}) {
+    EXPECT_THROW(reader.Readtag3(scratch.Put("a.wma", text + fill)), RuntimeFailure) << text;
   }
 }
 
