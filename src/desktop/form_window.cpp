@@ -1,6 +1,8 @@
 #include "desktop/form_window.h"
 
+#include <QApplication>
 #include <QCloseEvent>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
@@ -18,6 +20,29 @@ MouseButton ButtonOf(const QMouseEvent& event) {
   return MouseButton::kLeft;
 }
 
+// The number by which the controls know a key: letters and digits are themselves.
+int KeyOf(const QKeyEvent& event) {
+  switch (event.key()) {
+    case Qt::Key_Left:
+      return key::kLeft;
+    case Qt::Key_Up:
+      return key::kUp;
+    case Qt::Key_Right:
+      return key::kRight;
+    case Qt::Key_Down:
+      return key::kDown;
+    case Qt::Key_Shift:
+      return key::kShift;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+      return key::kEnter;
+    case Qt::Key_Escape:
+      return key::kEscape;
+    default:
+      return event.key() < 128 ? event.key() : 0;
+  }
+}
+
 }  // namespace
 
 FormWindow::FormWindow(Form& form, PictureCache& pictures) : form_(form), pictures_(pictures) {
@@ -27,9 +52,27 @@ FormWindow::FormWindow(Form& form, PictureCache& pictures) : form_(form), pictur
   resize(static_cast<int>(form.place().width), static_cast<int>(form.place().height));
   form_.on_dirty = [this] { UpdateDirty(); };
   form_.TakeDirty();
+  form_.pictures = &pictures_;
+  hover_test_.setInterval(Form::kHoverTestMs);
+  connect(&hover_test_, &QTimer::timeout, this, [this] { TestHover(); });
+  form_.on_hover = [this] { hover_test_.start(); };
 }
 
-FormWindow::~FormWindow() { form_.on_dirty = {}; }
+FormWindow::~FormWindow() {
+  form_.on_dirty = {};
+  form_.on_hover = {};
+  form_.pictures = nullptr;
+}
+
+void FormWindow::TestHover() {
+  const QPoint at = QCursor::pos();
+  if (QApplication::widgetAt(at) == this) {
+    form_.TestHover(FormPoint(mapFromGlobal(at)));
+  } else {
+    form_.LeaveMouse();
+  }
+  if (!form_.hovering()) hover_test_.stop();
+}
 
 double FormWindow::Scale() const {
   return std::min(width() / static_cast<double>(form_.place().width),
@@ -96,8 +139,18 @@ void FormWindow::mouseDoubleClickEvent(QMouseEvent* event) {
 
 void FormWindow::leaveEvent(QEvent*) { form_.LeaveMouse(); }
 
-void FormWindow::keyPressEvent(QKeyEvent*) {
-  if (form_.on_input) form_.on_input();
+void FormWindow::keyPressEvent(QKeyEvent* event) {
+  const int key = KeyOf(*event);
+  const bool access = key == key::kEnter || key == key::kEscape ||
+                      (event->modifiers() & Qt::AltModifier && key != 0);
+  if (access && form_.PressAccessKey(key)) return;
+  form_.PressKey(key);
+  const QString text = event->text();
+  if (!text.isEmpty() && text[0].unicode() < 256) form_.TypeCharacter(text[0].unicode());
+}
+
+void FormWindow::keyReleaseEvent(QKeyEvent* event) {
+  if (!event->isAutoRepeat()) form_.ReleaseKey(KeyOf(*event));
 }
 
 void FormWindow::closeEvent(QCloseEvent* event) {

@@ -1,7 +1,8 @@
-// A window that shows one form: paints what is dirty, hands in mouse and touch.
+// A window that shows one form: paints what is dirty, hands in mouse, touch and keys.
 #ifndef SONOTIK_DESKTOP_FORM_WINDOW_H_
 #define SONOTIK_DESKTOP_FORM_WINDOW_H_
 
+#include <QTimer>
 #include <QWidget>
 #include <functional>
 
@@ -30,6 +31,7 @@ class FormWindow : public QWidget {
   void mouseDoubleClickEvent(QMouseEvent* event) override;
   void leaveEvent(QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
+  void keyReleaseEvent(QKeyEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
 
  private:
@@ -37,9 +39,11 @@ class FormWindow : public QWidget {
   QPointF Offset() const;
   Point FormPoint(const QPointF& at) const;
   void UpdateDirty();
+  void TestHover();
 
   Form& form_;
   PictureCache& pictures_;
+  QTimer hover_test_;  // runs only while the mouse is over a control
   int paints_ = 0;
 };
 

@@ -14,9 +14,27 @@ constexpr double kPixelsPerPoint = 96.0 / 72.0;
 // A picture that can't be decoded.
 constexpr Color kPlate = Rgb(48, 52, 70);
 
-QColor ColorOf(Color color) {
+QColor ColorOf(Color color, int alpha = 255) {
+  color = ShownColor(color);
   return QColor(static_cast<int>(color & 255), static_cast<int>(color >> 8 & 255),
-                static_cast<int>(color >> 16 & 255));
+                static_cast<int>(color >> 16 & 255), alpha);
+}
+
+QBrush BrushOf(const Brush& brush) {
+  const QColor from = ColorOf(brush.from, brush.from_alpha);
+  const QColor to = ColorOf(brush.to, brush.to_alpha);
+  if (from == to) return from;
+  QLinearGradient gradient(brush.start.x, brush.start.y, brush.end.x, brush.end.y);
+  gradient.setColorAt(0, from);
+  gradient.setColorAt(1, to);
+  return gradient;
+}
+
+QPolygonF PolygonOf(std::span<const Point> corners) {
+  QPolygonF polygon;
+  polygon.reserve(static_cast<qsizetype>(corners.size()));
+  for (const Point& corner : corners) polygon << QPointF(corner.x, corner.y);
+  return polygon;
 }
 
 QRectF RectOf(const Rect& rect) { return {rect.left, rect.top, rect.width, rect.height}; }
@@ -80,12 +98,16 @@ void PainterCanvas::DrawRect(const Rect& rect, Color color, float width, float r
   painter_.drawRoundedRect(RectOf(rect.Inset(width / 2)), radius, radius);
 }
 
-void PainterCanvas::FillPolygon(std::span<const Point> corners, Color color) {
-  QPolygonF polygon;
-  for (const Point& corner : corners) polygon << QPointF(corner.x, corner.y);
+void PainterCanvas::FillPolygon(std::span<const Point> corners, const Brush& brush) {
   painter_.setPen(Qt::NoPen);
-  painter_.setBrush(ColorOf(color));
-  painter_.drawPolygon(polygon);
+  painter_.setBrush(BrushOf(brush));
+  painter_.drawPolygon(PolygonOf(corners));
+}
+
+void PainterCanvas::DrawPolygon(std::span<const Point> corners, const Brush& brush, float width) {
+  painter_.setBrush(Qt::NoBrush);
+  painter_.setPen(QPen(BrushOf(brush), width, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin));
+  painter_.drawPolygon(PolygonOf(corners));
 }
 
 void PainterCanvas::DrawPicture(const std::string& path, const Rect& rect, PictureFit fit) {
@@ -104,7 +126,7 @@ void PainterCanvas::DrawPicture(const std::string& path, const Rect& rect, Pictu
 
 void PainterCanvas::DrawPixels(const PixelSurface& pixels, const Rect& rect) {
   const QImage image(pixels.bytes.data(), pixels.width, pixels.height, pixels.stride,
-                     QImage::Format_RGB32);
+                     pixels.has_alpha ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32);
   painter_.drawImage(RectOf(rect), image);
 }
 

@@ -22,7 +22,8 @@ class PainterCanvas : public Canvas {
   void FillRect(const Rect& rect, Color color, float radius) override;
   void FillGradient(const Rect& rect, Color top, Color bottom, float radius) override;
   void DrawRect(const Rect& rect, Color color, float width, float radius) override;
-  void FillPolygon(std::span<const Point> corners, Color color) override;
+  void FillPolygon(std::span<const Point> corners, const Brush& brush) override;
+  void DrawPolygon(std::span<const Point> corners, const Brush& brush, float width) override;
   void DrawPicture(const std::string& path, const Rect& rect, PictureFit fit) override;
   void DrawPixels(const PixelSurface& pixels, const Rect& rect) override;
   void DrawText(const std::string& text, const Rect& rect, const TextStyle& style) override;

@@ -6,7 +6,9 @@
 #include <filesystem>
 #include <system_error>
 
+#include "files/files.h"
 #include "files/paths.h"
+#include "files/runtime_failure.h"
 
 namespace sonotik {
 namespace {
@@ -31,11 +33,24 @@ QImage Reflected(const QImage& image) {
   return mirrored;
 }
 
-QImage DecodeFile(const QString& file, QSize size, PictureFit fit) {
-  QImageReader reader(file);
+void SetUp(QImageReader& reader) {
   reader.setAutoTransform(true);
   reader.setDecideFormatFromContent(true);
   QImageReader::setAllocationLimit(kMostMegabytes);
+}
+
+QSize ShownSize(const QImageReader& reader) {
+  const bool turned = reader.transformation() & QImageIOHandler::TransformationRotate90;
+  return turned ? reader.size().transposed() : reader.size();
+}
+
+QString NativeFile(const std::string& path) {
+  return QString::fromStdString(NativePath(path).string());
+}
+
+QImage DecodeFile(const QString& file, QSize size, PictureFit fit) {
+  QImageReader reader(file);
+  SetUp(reader);
   const QSize native = reader.size();
   const Qt::AspectRatioMode mode = fit == PictureFit::kStretch   ? Qt::IgnoreAspectRatio
                                    : fit == PictureFit::kContain ? Qt::KeepAspectRatio
@@ -94,6 +109,40 @@ const QImage& PictureCache::Get(const std::string& path, QSize size, PictureFit 
     uses_.splice(uses_.end(), uses_, entry->second.use);
   }
   return entry->second.image;
+}
+
+std::optional<Rect> PictureCache::SizeOf(const std::string& path) {
+  QImageReader reader(NativeFile(path));
+  SetUp(reader);
+  const QSize size = ShownSize(reader);
+  if (size.isEmpty()) return std::nullopt;
+  return Rect{0, 0, static_cast<float>(size.width()), static_cast<float>(size.height())};
+}
+
+std::optional<PixelSurface> PictureCache::Pixels(const std::string& path, int most_side) {
+  const QString file = NativeFile(path);
+  QImageReader reader(file);
+  SetUp(reader);
+  const QSize native = ShownSize(reader);
+  const QSize size = std::max(native.width(), native.height()) > most_side
+                         ? native.scaled(most_side, most_side, Qt::KeepAspectRatio)
+                         : native;
+  if (size.isEmpty()) return std::nullopt;
+  const QImage image = DecodeFile(file, size, PictureFit::kStretch)
+                           .convertToFormat(QImage::Format_ARGB32_Premultiplied);
+  if (image.isNull()) return std::nullopt;
+  PixelSurface pixels{
+      image.width(), image.height(), static_cast<int>(image.bytesPerLine()), {}, true};
+  pixels.bytes.assign(image.constBits(), image.constBits() + image.sizeInBytes());
+  return pixels;
+}
+
+std::optional<std::string> PictureCache::Bytes(const std::string& path) {
+  try {
+    return ReadWholeFile(path);
+  } catch (const RuntimeFailure&) {
+    return std::nullopt;
+  }
 }
 
 void PictureCache::Forget(const std::map<Key, Entry>::iterator& entry) {

@@ -10,18 +10,24 @@
 #include <tuple>
 
 #include "widgets/canvas.h"
+#include "widgets/picture_source.h"
 
 namespace sonotik {
 
 // Keeps what was decoded, the least used going first, as long as file, size and time of change are
 // the same.
-class PictureCache {
+class PictureCache : public PictureSource {
  public:
   explicit PictureCache(int64_t most_bytes = int64_t{96} << 20) : most_bytes_(most_bytes) {}
 
   // The picture for a place of this many pixels: filling it for kStretch, kCover and kReflection,
   // within it for kContain. A null image for a file that can't be decoded.
   const QImage& Get(const std::string& path, QSize size, PictureFit fit);
+
+  // What controls ask of a picture; kept by them, not here.
+  std::optional<Rect> SizeOf(const std::string& path) override;
+  std::optional<PixelSurface> Pixels(const std::string& path, int most_side) override;
+  std::optional<std::string> Bytes(const std::string& path) override;
 
   int64_t bytes() const { return bytes_; }
   int decodes() const { return decodes_; }

@@ -8,6 +8,9 @@ void SetUpButton(Panel& panel, lvButtons_H& button, const Rect& place, const std
   panel.Add(button, place);
   button.SetCaption(caption);
   button.SetFont(font);
+  button.SetBackStyle(back_style::kSoft);
+  // Fingers need no mark of where the keyboard is; a skin that wants it says so.
+  button.SetFocusRect(false);
 }
 
 }  // namespace

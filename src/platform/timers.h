@@ -24,6 +24,8 @@ class Timer {
 
   bool enabled() const { return enabled_; }
   void SetEnabled(bool enabled);
+  // Counts from the next time that it is switched on.
+  void SetInterval(int interval_ms) { interval_ms_ = interval_ms; }
   // Off for good, whoever switches it on: the program leaves.
   void Retire();
 

@@ -7,15 +7,10 @@
 #include <string>
 #include <vector>
 
+#include "widgets/colors.h"
 #include "widgets/geometry.h"
 
 namespace sonotik {
-
-// A colour as the skins write it: 0x00BBGGRR.
-using Color = uint32_t;
-constexpr Color Rgb(uint32_t red, uint32_t green, uint32_t blue) {
-  return red | green << 8 | blue << 16;
-}
 
 struct Font {
   std::string family = "DejaVu Sans";
@@ -41,12 +36,28 @@ enum class PictureFit {
   kReflection,  // as kCover, upside down and fading out downwards
 };
 
-// Pixels that somebody else renders, such as a video: rows of B, G, R, unused.
+// Pixels that somebody else renders, such as a video: rows of B, G, R and a fourth byte.
 struct PixelSurface {
   int width = 0;
   int height = 0;
   int stride = 0;  // bytes a row
   std::vector<uint8_t> bytes;
+  // The fourth byte is the alpha, and B, G, R are multiplied by it. Otherwise it is unused.
+  bool has_alpha = false;
+};
+
+// What an area or a line is filled with: one colour, or a run between two points. Alpha 255 covers.
+struct Brush {
+  Brush(Color color, uint8_t alpha = 255)  // NOLINT: a colour is a brush
+      : from(color), to(color), from_alpha(alpha), to_alpha(alpha) {}
+  Brush(Color a, Color b, Point at_a, Point at_b, uint8_t alpha_a = 255, uint8_t alpha_b = 255)
+      : from(a), to(b), start(at_a), end(at_b), from_alpha(alpha_a), to_alpha(alpha_b) {}
+
+  Color from;
+  Color to;
+  Point start, end;
+  uint8_t from_alpha;
+  uint8_t to_alpha;
 };
 
 class Canvas {
@@ -64,7 +75,9 @@ class Canvas {
   virtual void FillGradient(const Rect& rect, Color top, Color bottom, float radius = 0) = 0;
   // A line of this width just inside the edge.
   virtual void DrawRect(const Rect& rect, Color color, float width, float radius = 0) = 0;
-  virtual void FillPolygon(std::span<const Point> corners, Color color) = 0;
+  virtual void FillPolygon(std::span<const Point> corners, const Brush& brush) = 0;
+  // A closed line of this width, half of it on each side of the edge.
+  virtual void DrawPolygon(std::span<const Point> corners, const Brush& brush, float width) = 0;
 
   // A picture file (a program path); one that can't be decoded leaves a plain plate.
   virtual void DrawPicture(const std::string& path, const Rect& rect, PictureFit fit) = 0;

@@ -3,21 +3,10 @@
 #include <algorithm>
 
 namespace sonotik {
-namespace {
-
-// More dirty places than this are painted as one that holds them all.
-constexpr size_t kMostDirtyRects = 16;
-
-Form* FormOf(const Control* control) {
-  while (control->parent() != nullptr) control = control->parent();
-  return const_cast<Form*>(dynamic_cast<const Form*>(control));
-}
-
-}  // namespace
 
 Control::~Control() {
   if (parent_ == nullptr) return;
-  if (Form* form = FormOf(this)) form->Forget(this);
+  if (Form* root = form()) root->Forget(this);
   std::erase(parent_->children_, this);
 }
 
@@ -33,6 +22,7 @@ void Control::SetVisible(bool visible) {
   Invalidate();
   visible_ = visible;
   Invalidate();
+  ShowingChanged();
 }
 
 bool Control::showing() const {
@@ -40,6 +30,17 @@ bool Control::showing() const {
     if (!control->visible_) return false;
   }
   return true;
+}
+
+Form* Control::form() const {
+  const Control* root = this;
+  while (root->parent_ != nullptr) root = root->parent_;
+  return const_cast<Form*>(dynamic_cast<const Form*>(root));
+}
+
+bool Control::focused() const {
+  const Form* root = form();
+  return root != nullptr && root->focus() == this;
 }
 
 Rect Control::AbsolutePlace() const {
@@ -58,14 +59,14 @@ void Control::BringToFront() {
 }
 
 void Control::Invalidate() {
-  Form* form = FormOf(this);
-  if (form == nullptr || !showing()) return;
+  Form* root = form();
+  if (root == nullptr || !showing()) return;
   Rect shown = place_;
   for (const Control* panel = parent_; panel != nullptr; panel = panel->parent_) {
     shown = shown.Intersected({0, 0, panel->place_.width, panel->place_.height})
                 .MovedBy(panel->place_.left, panel->place_.top);
   }
-  form->AddDirty(shown);
+  root->AddDirty(shown);
 }
 
 bool Control::TakesMouse() const {
@@ -85,6 +86,12 @@ void Control::MouseUp(const MouseEvent& event, bool inside) {
   if (inside && event.button == MouseButton::kLeft && on_click) on_click();
 }
 
+bool Control::DoubleClick() {
+  if (!on_double_click) return false;
+  on_double_click();
+  return true;
+}
+
 Panel::~Panel() {
   for (Control* child : children_) child->parent_ = nullptr;
 }
@@ -96,15 +103,22 @@ void Panel::Add(Control& child, const Rect& place) {
   child.Invalidate();
 }
 
+void Panel::ShowingChanged() {
+  for (Control* child : children_) child->ShowingChanged();
+}
+
+void Panel::PostKeyDown(const KeyMessage& message) {
+  if (Form* root = form()) root->posted_.emplace_back(this, message);
+}
+
 Control* Panel::HitTest(Point at) {
   for (auto child = children_.rbegin(); child != children_.rend(); ++child) {
     Control& control = **child;
     if (!control.visible() || !control.place().Contains(at)) continue;
+    const Point inner{at.x - control.place().left, at.y - control.place().top};
     if (auto* panel = dynamic_cast<Panel*>(&control)) {
-      if (Control* hit = panel->HitTest({at.x - panel->place().left, at.y - panel->place().top})) {
-        return hit;
-      }
-    } else if (control.TakesMouse()) {
+      if (Control* hit = panel->HitTest(inner)) return hit;
+    } else if (control.TakesMouse() && control.Covers(inner)) {
       return &control;
     }
   }
@@ -133,75 +147,6 @@ void Panel::Paint(Canvas& canvas) const {
     child.Paint(canvas);
     canvas.Pop();
   }
-}
-
-void Form::PressMouse(Point at, MouseButton button) {
-  if (on_input) on_input();
-  Hover(HitTest(at));
-  captured_ = pressed_ = hovered_;
-  if (captured_ == nullptr) return;
-  const Rect place = captured_->AbsolutePlace();
-  captured_->MouseDown({{at.x - place.left, at.y - place.top}, button});
-}
-
-void Form::MoveMouse(Point at) {
-  Control* target = captured_;
-  if (target == nullptr) Hover(target = HitTest(at));
-  if (target == nullptr) return;
-  const Rect place = target->AbsolutePlace();
-  target->MouseMove({{at.x - place.left, at.y - place.top}, MouseButton::kLeft});
-}
-
-void Form::ReleaseMouse(Point at, MouseButton button) {
-  Control* const target = std::exchange(captured_, nullptr);
-  if (target == nullptr) return;
-  const Rect place = target->AbsolutePlace();
-  const bool inside = target->showing() && place.Contains(at);
-  target->MouseUp({{at.x - place.left, at.y - place.top}, button}, inside);
-  // The handler may have put another screen under the finger.
-  Hover(HitTest(at));
-}
-
-void Form::DoubleClickMouse(Point at) {
-  if (on_input) on_input();
-  if (pressed_ != nullptr && pressed_->on_double_click) return pressed_->on_double_click();
-  // Without a use for a double click it is the second of two clicks.
-  PressMouse(at);
-}
-
-void Form::LeaveMouse() { Hover(nullptr); }
-
-void Form::Click(Point at) {
-  PressMouse(at);
-  ReleaseMouse(at);
-}
-
-void Form::Hover(Control* control) {
-  if (hovered_ == control) return;
-  Control* const left = std::exchange(hovered_, control);
-  if (left != nullptr) left->MouseLeave();
-  if (hovered_ != nullptr) hovered_->MouseEnter();
-}
-
-void Form::Forget(const Control* control) {
-  if (captured_ == control) captured_ = nullptr;
-  if (pressed_ == control) pressed_ = nullptr;
-  if (hovered_ == control) hovered_ = nullptr;
-}
-
-void Form::AddDirty(const Rect& rect) {
-  if (rect.empty()) return;
-  for (const Rect& known : dirty_) {
-    if (known.Contains(rect)) return;
-  }
-  std::erase_if(dirty_, [&](const Rect& known) { return rect.Contains(known); });
-  dirty_.push_back(rect);
-  if (dirty_.size() > kMostDirtyRects) {
-    Rect all;
-    for (const Rect& known : dirty_) all = all.United(known);
-    dirty_ = {all};
-  }
-  if (on_dirty) on_dirty();
 }
 
 }  // namespace sonotik

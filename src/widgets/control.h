@@ -1,6 +1,6 @@
 // Controls: the state of the screens. A control is a place with a few properties; panels hold
 // others; a form is the root of a window. Logic reads and writes them, skins place them, a window
-// only paints them and hands in the mouse.
+// only paints them and hands in mouse and keys.
 #ifndef SONOTIK_WIDGETS_CONTROL_H_
 #define SONOTIK_WIDGETS_CONTROL_H_
 
@@ -16,6 +16,7 @@ namespace sonotik {
 
 class Panel;
 class Form;
+class PictureSource;
 
 enum class MouseButton { kLeft, kMiddle, kRight };
 
@@ -23,6 +24,25 @@ enum class MouseButton { kLeft, kMiddle, kRight };
 struct MouseEvent {
   Point at;
   MouseButton button = MouseButton::kLeft;
+};
+
+// The keys that controls know by their numbers.
+namespace key {
+inline constexpr int kEnter = 13;
+inline constexpr int kShift = 16;
+inline constexpr int kEscape = 27;
+inline constexpr int kSpace = 32;
+inline constexpr int kLeft = 37;
+inline constexpr int kUp = 38;
+inline constexpr int kRight = 39;
+inline constexpr int kDown = 40;
+}  // namespace key
+
+// A key that a control hands on to the panel around it.
+struct KeyMessage {
+  int key = 0;
+  int repeat = 1;
+  int scan_code = 0;
 };
 
 class Control {
@@ -40,6 +60,8 @@ class Control {
   Panel* parent() const { return parent_; }
   // True if the control and all panels around it are visible.
   bool showing() const;
+  // The form around it; nullptr if it is on none.
+  Form* form() const;
   // The place in the form's coordinates.
   Rect AbsolutePlace() const;
   // In front of all its siblings.
@@ -56,13 +78,32 @@ class Control {
 
   // True if a mouse press on it is its own; others fall through to what lies below.
   virtual bool TakesMouse() const;
+  // True if this point of its place is part of it: a shaped control is smaller than its place.
+  virtual bool Covers(Point) const { return true; }
   // What a control does of its own with the mouse, before the handlers above run.
   virtual void MouseDown(const MouseEvent& event);
   virtual void MouseMove(const MouseEvent& event);
   // `inside`: the button was let go over the control, which makes a click of it.
   virtual void MouseUp(const MouseEvent& event, bool inside);
+  // True if it looks different under the mouse, and so has to know when the mouse has left.
+  virtual bool ShowsHover() const { return false; }
   virtual void MouseEnter() {}
   virtual void MouseLeave() {}
+  // False if the second tap is to count as one more press.
+  virtual bool DoubleClick();
+
+  // The keyboard belongs to one control at a time, if it wants it.
+  virtual bool TakesFocus() const { return false; }
+  bool focused() const;
+  virtual void KeyDown(int) {}
+  virtual void KeyPress(int) {}
+  virtual void KeyUp(int) {}
+  // True if this key, pressed anywhere on the form, is meant for it; AccessKey then brings it.
+  virtual bool AnswersAccessKey(int) const { return false; }
+  virtual void AccessKey(int) {}
+
+  // It may have begun or ceased to show, by itself or with a panel around it.
+  virtual void ShowingChanged() {}
 
   // In the control's own coordinates.
   virtual void Paint(Canvas& canvas) const = 0;
@@ -94,6 +135,10 @@ class Panel : public Control {
   // The control is owned elsewhere; it leaves by itself when it ends.
   void Add(Control& child, const Rect& place);
   const std::vector<Control*>& children() const { return children_; }
+  void ShowingChanged() override;
+  // From a control on it: comes back to the panel once the key at hand is dealt with, and there
+  // moves the focus.
+  void PostKeyDown(const KeyMessage& message);
 
   Color back_color() const { return back_color_; }
   void SetBackColor(Color color) { Change(back_color_, color); }
@@ -117,7 +162,8 @@ class Panel : public Control {
   std::string picture_;
 };
 
-// The root of a window: it knows the mouse's capture and hover and what has to be painted.
+// The root of a window: it knows the mouse's capture and hover, the focus, and what has to be
+// painted.
 class Form : public Panel {
  public:
   const std::string& title() const { return title_; }
@@ -133,6 +179,26 @@ class Form : public Panel {
   // Down and up in one place.
   void Click(Point at);
 
+  // While the mouse is over a control that shows it, the window asks every kHoverTestMs with the
+  // mouse's place: a control that went away from under it, or that it left without a word, is left
+  // here.
+  static constexpr int kHoverTestMs = 50;
+  void TestHover(Point at);
+  bool hovering() const { return hovered_ != nullptr && hovered_->ShowsHover(); }
+  // Told when hovering begins.
+  std::function<void()> on_hover;
+
+  // Keys by their numbers, characters by their codes, for the control that has the focus.
+  void PressKey(int key);
+  void TypeCharacter(int character);
+  void ReleaseKey(int key);
+  // Enter, Escape, or a letter meant for whatever control has it as its access key. False if none
+  // that shows has.
+  bool PressAccessKey(int key);
+  // The control that has the keyboard while it shows; nullptr for none.
+  const Control* focus() const { return focus_; }
+  void SetFocus(Control* control);
+
   // The control that a pressed finger holds; nullptr for none.
   const Control* captured() const { return captured_; }
 
@@ -145,16 +211,23 @@ class Form : public Panel {
   // Told when something has to be painted that was not said before.
   std::function<void()> on_dirty;
 
+  // Where its controls find the pictures; nullptr until a window has brought it.
+  PictureSource* pictures = nullptr;
+
  private:
   friend class Control;
+  friend class Panel;
   void AddDirty(const Rect& rect);
   void Forget(const Control* control);
   void Hover(Control* control);
+  void MoveFocus(const Panel& panel, int arrow);
 
   std::string title_;
   Control* captured_ = nullptr;
   Control* pressed_ = nullptr;  // the last one
   Control* hovered_ = nullptr;
+  Control* focus_ = nullptr;
+  std::vector<std::pair<Panel*, KeyMessage>> posted_;
   std::vector<Rect> dirty_;
 };
 

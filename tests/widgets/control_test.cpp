@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "widgets/Slider.h"
 #include "widgets/controls.h"
 #include "widgets/lvButtons_H.h"
 
@@ -95,29 +94,36 @@ TEST(Controls, ASecondTapBelongsToTheControlOfTheFirst) {
 
 TEST(Controls, HoverFollowsTheMouseAndLeavesWithIt) {
   Screen screen;
+  int tests_asked_for = 0;
+  screen.form.on_hover = [&] { ++tests_asked_for; };
   screen.form.MoveMouse({35, 35});
   EXPECT_TRUE(screen.button.hovered());
   screen.form.MoveMouse({150, 90});
   EXPECT_FALSE(screen.button.hovered());
+  // Without a move: the mouse has gone, or the button from under it.
+  screen.form.MoveMouse({35, 35});
+  screen.form.TestHover({36, 36});
+  EXPECT_TRUE(screen.button.hovered());
+  screen.form.TestHover({150, 90});
+  EXPECT_FALSE(screen.button.hovered());
+  EXPECT_FALSE(screen.form.hovering());
+  screen.form.MoveMouse({35, 35});
+  screen.panel.SetVisible(false);
+  screen.form.TestHover({35, 35});
+  EXPECT_FALSE(screen.button.hovered());
+  EXPECT_EQ(tests_asked_for, 3);
 }
 
-TEST(Sliders, FollowTheFingerWithinTheirRange) {
-  Form form;
-  Slider slider;
-  form.SetPlace({0, 0, 300, 50});
-  form.Add(slider, {0, 0, 114, 40});
-  slider.SetRange(-4000, 0);
-  int heard = 1;
-  slider.on_scroll = [&](int value) { heard = value; };
-  form.PressMouse({57, 20});
-  EXPECT_EQ(heard, -2000);
-  form.MoveMouse({500, 20});
-  EXPECT_EQ(slider.value(), 0);
-  form.ReleaseMouse({500, 20});
-  form.MoveMouse({0, 20});
-  EXPECT_EQ(slider.value(), 0);
-  slider.SetValue(-9999);
-  EXPECT_EQ(slider.value(), -4000);
+TEST(Controls, AHeldControlLightsUpOnlyWhileTheFingerIsOnIt) {
+  Screen screen;
+  lvButtons_H other;
+  screen.form.Add(other, {120, 0, 50, 50});
+  screen.form.PressMouse({35, 35});
+  screen.form.MoveMouse({130, 10});
+  EXPECT_FALSE(screen.button.hovered());
+  EXPECT_FALSE(other.hovered());
+  screen.form.MoveMouse({35, 35});
+  EXPECT_TRUE(screen.button.hovered());
 }
 
 TEST(Labels, ShowDoubledAmpersandsOnceAndNoAccessMarks) {
