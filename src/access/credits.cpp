@@ -17,7 +17,10 @@ Credits::Credits(const std::string& app_path, const Settings& settings, const Op
 
 void Credits::Receive(const std::string& text) {
   using Limits = std::numeric_limits<int16_t>;
-  const double sum = count_ + RoundHalfEven(NumberOrZero(text));
+  // A script's line end belongs to the line, not to the number.
+  const size_t end = text.find_last_not_of(std::string_view("\r\n\0", 3));
+  const std::string_view number = std::string_view(text).substr(0, end + 1);
+  const double sum = count_ + RoundHalfEven(NumberOrZero(number));
   count_ = static_cast<int>(std::clamp<double>(sum, Limits::min(), Limits::max()));
 }
 

@@ -4,9 +4,13 @@
 #include "files/line_format.h"
 #include "files/runtime_failure.h"
 #include "text/numbers.h"
+#include "text/text.h"
 
 namespace sonotik {
 namespace {
+
+// Two flags and a path; whatever is larger is no selection.
+constexpr int64_t kLongestSpool = 65536;
 
 SpooledSelection Parse(const std::string& text) {
   // The path is a whole line: a comma in it is part of it.
@@ -15,6 +19,8 @@ SpooledSelection Parse(const std::string& text) {
   selection.play_now_flag = FieldReader(reader.Next() + "\r\n").Int16();
   selection.play_next_flag = FieldReader(reader.Next() + "\r\n").Int16();
   selection.path = reader.Next();
+  // Queued, an empty path would stand at the head and never be taken.
+  if (TrimBlanks(selection.path).empty()) throw RuntimeFailure("a spool file without a path");
   return selection;
 }
 
@@ -28,6 +34,8 @@ void Network::LoadTerminal() {
   shared_folder_ = reader.Text();
   master_ = reader.Truth();
   terminal_ = reader.Truth();
+  // One of two options: a station that handed its selections to itself would never end.
+  if (terminal_) master_ = false;
 }
 
 void Network::SaveTerminal() const {
@@ -60,10 +68,12 @@ std::optional<SpooledSelection> Network::ReadSpool() {
   spool_files_.SetFolder(app_path_);
   for (int i = 0; i < spool_files_.count(); ++i) {
     served_ = spool_files_.PathAt(i);
-    const std::string text = ReadWholeFile(served_);
-    if (text.empty()) continue;
+    const FileStamp stamp = StampOf(served_);
+    // Still being written, no file at all, none of ours, or served already and not to be deleted.
+    if (stamp.size <= 0 || stamp.size > kLongestSpool || !FileExists(served_)) continue;
+    if (served_ == stuck_ && stamp == stuck_stamp_) continue;
     try {
-      return Parse(text);
+      return Parse(ReadWholeFile(served_));
     } catch (const RuntimeFailure&) {
       RemoveSpool();
       throw;
@@ -72,6 +82,11 @@ std::optional<SpooledSelection> Network::ReadSpool() {
   return {};
 }
 
-void Network::RemoveSpool() { DeleteFileIfThere(served_); }
+void Network::RemoveSpool() {
+  stuck_ = served_;
+  stuck_stamp_ = StampOf(served_);
+  DeleteFileIfThere(served_);
+  stuck_.clear();
+}
 
 }  // namespace sonotik

@@ -7,6 +7,7 @@
 #include <string>
 
 #include "files/file_list.h"
+#include "files/files.h"
 
 namespace sonotik {
 
@@ -49,6 +50,9 @@ class Network {
   bool terminal_ = false;
   FileList spool_files_{"*.que"};
   std::string served_;
+  // A served file that can't be deleted, as it then was: it is not served again.
+  std::string stuck_;
+  FileStamp stuck_stamp_;
 };
 
 }  // namespace sonotik

@@ -28,6 +28,7 @@ void QueueView::HideRowCommands() {
 }
 
 void QueueView::Update_queue2() {
+  screen_.commands[static_cast<size_t>(QueueCommand::kClear)].SetVisible(true);
   if (settings_.read_only_queue) {
     for (lvButtons_H& command : screen_.commands) command.SetVisible(false);
   } else if (selection_ == -1) {

@@ -54,10 +54,16 @@ std::string Selection::CoverFor(const std::string& folder) const {
 }
 
 void Selection::Choose(const std::string& path, PlayWay way) {
+  // A guest's choice is a guest's, also while the machine starts a track of its own.
   const struct Clear {
     PlaybackState& state;
-    ~Clear() { state.play_now_flag = state.play_next_flag = 0; }
-  } clear{state_};
+    bool machine_chose;
+    ~Clear() {
+      state.play_now_flag = state.play_next_flag = 0;
+      state.random_in_progress = machine_chose;
+    }
+  } clear{state_, state_.random_in_progress};
+  state_.random_in_progress = false;
   state_.play_now_flag = way == PlayWay::kPlayNow ? 1 : 0;
   state_.play_next_flag = way == PlayWay::kPlayNext ? 1 : 0;
   add_queue4(path);

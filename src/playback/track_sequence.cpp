@@ -9,8 +9,7 @@ namespace sonotik {
 
 TrackSequence::TrackSequence(EventLoop& events, const Settings& settings, PlaybackState& state,
                              MediaEngine& engine, const CoverFinder& covers, History& history,
-                             TagReader& tags, const TagFields& fields, Timer& state_timer,
-                             Form1& form)
+                             TagReader& tags, TagFields& fields, Timer& state_timer, Form1& form)
     : events_(events),
       settings_(settings),
       state_(state),
@@ -35,6 +34,8 @@ void TrackSequence::Play_track3(std::string path) {
   if (settings_.mute_line_in_on_play) hooks.mute_line_in();
   tags_.ReadFor(TagCaller::kPlayTrack, path);
   ShowNames();
+  // Events run before the play is recorded, and one of them may read another tag.
+  const TagFields names = fields_;
   hooks.send_to_sign();
   events_.PumpEvents();
 
@@ -45,15 +46,20 @@ void TrackSequence::Play_track3(std::string path) {
   }
   if (KindOf(path) == "TAG" && path.size() >= 4) path.resize(path.size() - 4);
 
-  state_.paused = false;
   engine_.OpenMedia(path, false);
+  // Behind the opening, which lets events run: a pause pressed in there was the track before's.
+  state_.paused = false;
+  form1_.paused.SetVisible(false);
   events_.PumpEvents();
   engine_.MediaSetVolume(settings_.use_random_volume && state_.random_in_progress
                              ? settings_.random_volume
                              : settings_.main_volume);
   BranchOnKind(path);
 
+  fields_ = names;
   const std::string folder = FolderOf(path);
+  state_.current_track_path = path;
+  state_.current_track_folder = folder;
   ShowCover(covers_.FindCoverPicture(folder));
   // The tag may have left the time of the file before standing; it is shown as it is.
   const std::string length =
@@ -62,8 +68,6 @@ void TrackSequence::Play_track3(std::string path) {
   form1_.now_playing.length.SetCaption(length);
   history_.AddToHistory(path, state_.random_in_progress ? kRandomHistory : kUserHistory);
   hooks.start_song_facts();
-  state_.current_track_path = path;
-  state_.current_track_folder = folder;
 }
 
 void TrackSequence::ShowNames() {

@@ -37,7 +37,7 @@ class TrackSequence {
  public:
   TrackSequence(EventLoop& events, const Settings& settings, PlaybackState& state,
                 MediaEngine& engine, const CoverFinder& covers, History& history, TagReader& tags,
-                const TagFields& fields, Timer& state_timer, Form1& form);
+                TagFields& fields, Timer& state_timer, Form1& form);
 
   TrackStartHooks hooks;
 
@@ -60,7 +60,7 @@ class TrackSequence {
   const CoverFinder& covers_;
   History& history_;
   TagReader& tags_;
-  const TagFields& fields_;
+  TagFields& fields_;
   Timer& state_timer_;
   Form1& form1_;
 };

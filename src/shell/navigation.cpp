@@ -189,9 +189,13 @@ void Navigation::DoubleClickTrackRow(int row) {
 }
 
 void Navigation::Choose(const std::string& path, PlayWay way) {
+  // A start lets events run, and the second of two quick taps must not pay again.
+  if (choosing_) return;
+  choosing_ = true;
   // By then it is charged and added: what fails behind that (a list for others, a tag) must not
   // leave the guest on a screen that asks again.
   house_.boundary.Run("add_queue4", [&] { house_.selection.Choose(path, way); });
+  choosing_ = false;
 }
 
 void Navigation::ChooseRow(PlayWay way) {

@@ -47,6 +47,7 @@ class Navigation {
   void AfterAdding(size_t calling_screen);
 
   Assembly& house_;
+  bool choosing_ = false;
   // The video box's own place while it fills the screen.
   Rect video_place_;
 };

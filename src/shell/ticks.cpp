@@ -185,7 +185,10 @@ void Ticks::TakeSpoolFile() {
 
 void Ticks::Poll() {
   const OffMeanwhile off(house_.timer1);
-  if (house_.network.master()) TakeSpoolFile();
+  // One file a poll; what fails in it leaves the credits and the keys alone.
+  if (house_.network.master()) {
+    house_.boundary.Run("spool file", [this] { TakeSpoolFile(); });
+  }
   house_.credits.ShowCreditState();
   hooks.PollKeys();
 }

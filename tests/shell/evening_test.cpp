@@ -137,7 +137,9 @@ TEST_F(EveningTest, TheRandomVolumeBelongsToTheMachinesOwnTracks) {
   house().selection.Choose(tracks[0], PlayWay::kPlayNow);
   EXPECT_EQ(machine.player.volume, -300);
   house().playback.random_in_progress = true;
-  house().selection.Choose(tracks[1], PlayWay::kPlayNow);
+  house().playback.play_now_flag = 1;
+  house().selection.add_queue4(tracks[1]);
+  house().playback.play_now_flag = 0;
   EXPECT_EQ(machine.player.volume, -900);
   EXPECT_EQ(Plays(kRandomHistory), 1);
 }
@@ -268,6 +270,31 @@ TEST_F(EveningTest, WhatFailsBehindAnAddIsChargedAndAddedOnceAndTheScreenGoes) {
   EXPECT_EQ(house().queue.count(), 4);
   EXPECT_EQ(house().credits.count(), 5);
   EXPECT_EQ(house().boundary.failures(), 4);
+}
+
+TEST_F(EveningTest, ADoubleTapPaysOnceAndEventsDuringAStartChangeNoRecord) {
+  settings.enable_credit_mode = true;
+  WriteDefaults();
+  folder.Write("cost.dat", " 1 \r\n 1 \r\n 1 \r\n 1 \r\n 1 \r\n 1 \r\n 1 \r\n 1 \r\n 1 \r\n");
+  WriteTrack("Night", "1.wav", "Bob", "Moon");
+  Start();
+  house().credits.Receive("4\r\n");
+  Click(form().album.covers[0].cover);
+  Click(form().track_list.rows[0].title);
+  const Rect button = form().play_options.play_now.AbsolutePlace();
+  machine.events.on_pump = [&] {
+    form().form.Click({button.left + 5, button.top + 5});
+    house().track_list.track_List2(AlbumPath("Night"));
+    jukebox->navigation.PressPlayer(PlayerButton::kPause);
+    machine.events.on_pump = [] {};
+  };
+  Click(form().play_options.play_now);
+  EXPECT_EQ(house().credits.count(), 2);
+  EXPECT_EQ(Plays(), 1);
+  EXPECT_EQ(folder.Read("User_history.dat").substr(255, 5), "Dawn ");
+  EXPECT_FALSE(house().playback.paused);
+  EXPECT_FALSE(form().paused.visible());
+  EXPECT_TRUE(machine.player.playing());
 }
 
 TEST_F(EveningTest, AFailingHandlerGivesItsTimerBack) {

@@ -192,13 +192,15 @@ TEST_F(KeysTest, AMasterServesOneFileAPollAndADamagedOneStopsNothing) {
   Start();
   folder.Write("Queue 1.QUE", "rubbish\r\n");
   folder.Write("Queue 2.que", "");
+  folder.Write("Queue 0.que", " 0 \r\n 0 \r\n  \r\n");
+  std::filesystem::create_symlink("gone", folder.native() / "A.que");
   folder.Write("Queue 3.que", " 0 \r\n 1 \r\n\\m\\3.wav\r\n");
   folder.Write("Queue.QUE", " 0 \r\n 0 \r\n\\m\\4.wav\r\n 0 \r\n 0 \r\n\\m\\5.wav\r\n");
-  for (int i = 0; i < 6; ++i) {
+  for (int i = 0; i < 8; ++i) {
     machine.clock.Add(10);
     machine.timers.FireDue();
   }
-  EXPECT_EQ(house().boundary.failures(), 1);
+  EXPECT_EQ(house().boundary.failures(), 2);
   EXPECT_EQ(house().queue.count(), 2);
   EXPECT_EQ(house().queue.path(0), "\\m\\3.wav");
   EXPECT_EQ(house().queue.path(1), "\\m\\4.wav");

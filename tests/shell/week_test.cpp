@@ -97,8 +97,8 @@ class WeekTest : public JukeboxTest {
   void DropSpoolFile() {
     const bool rubbish = Draw(6) == 0;
     rubbish_files += rubbish;
-    const std::string flags = " " + std::to_string(Draw(2)) + " \r\n " +
-                              std::to_string(Draw(2)) + " \r\n";
+    const std::string flags =
+        " " + std::to_string(Draw(2)) + " \r\n " + std::to_string(Draw(2)) + " \r\n";
     folder.Write("Queue " + std::to_string(Draw(5)) + ".QUE",
                  rubbish ? "rubbish\r\n" : flags + AnyPath() + "\r\n");
     machine.clock.Add(10);
@@ -143,8 +143,7 @@ class WeekTest : public JukeboxTest {
   // Three seconds without anybody: then something plays, is paused, or nothing waits.
   void CheckNoSilence() {
     LetTimePass(3);
-    ASSERT_TRUE(machine.player.playing() || house().playback.paused ||
-                house().queue.count() == 0);
+    ASSERT_TRUE(machine.player.playing() || house().playback.paused || house().queue.count() == 0);
   }
 
   void CloseAndReopen() {
