@@ -37,6 +37,16 @@ void Credits::LoadCost() {
   }
 }
 
+void Credits::SaveCost() const {
+  LineWriter writer;
+  for (size_t index = 0; index < 3; ++index) {
+    for (size_t list = 0; list < 3; ++list) {
+      writer.Number(static_cast<long>(price_grid_[list][index]));
+    }
+  }
+  ReplaceFile(app_path_ + "\\cost.dat", writer.text());
+}
+
 int Credits::PriceAt(size_t list, size_t index) const { return price_grid_[list][index] + 1; }
 
 bool Credits::ChargeForSelection(int media_kind, bool play_now, bool play_next,
@@ -71,6 +81,7 @@ void Credits::ShowCreditState() {
 
 void Credits::ShowCreditMode() {
   ShowCreditState();
+  // The count stays in memory, unseen, until the mode is on again.
   if (settings_.enable_credit_mode) return;
   form_.play_caption.SetCaption("Play NOW");
   form_.credits.SetCaption("FREEPLAY");

@@ -28,6 +28,7 @@ class Credits {
   // cost.dat: nine selected indexes (price minus 1). Without the file no price is chosen, and
   // everything costs nothing.
   void LoadCost();
+  void SaveCost() const;
 
   // Takes the price of an add. False: too few credits, and nothing may be added. Nothing is taken
   // while credit mode is off, for the machine's own selections, on a page that is neither audio,

@@ -36,6 +36,7 @@ void PlayOptions::show_play_options(const std::string& path, size_t calling_scre
 void PlayOptions::ShowButtons() {
   screen_.message.SetCaption("");
   for (Label& price : screen_.prices) price.SetVisible(false);
+  // Duplicates are looked for here alone: other ways of adding don't ask.
   const bool queued = !settings_.allow_duplicates_in_queue && is_queued(WithoutTagMark(path_));
   const bool coins = credits_.InsertCoins(cursor_.media_kind);
   const bool offer = !queued && !coins;

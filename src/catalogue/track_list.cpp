@@ -94,6 +94,7 @@ std::string TrackList::RowText(int number, const std::string& title) const {
 }
 
 void TrackList::ShowHeading() {
+  // From the last tag of the page, whatever the others say; that is meant.
   screen_.album_heading.SetCaption("Album : " + fields_.txtAlbum);
   screen_.artist_heading.SetCaption("Artist : " +
                                     (compilation_ ? "Various Artists" : fields_.txtArtist));

@@ -1,5 +1,5 @@
 // A folder's files by pattern, in the order of their names: the working list behind track lists,
-// covers and spool files.
+// covers and spool files. Track numbers in tags play no part in the order.
 #ifndef SONOTIK_FILES_FILE_LIST_H_
 #define SONOTIK_FILES_FILE_LIST_H_
 

@@ -24,10 +24,12 @@ void Selection::add_queue4(const std::string& path) {
                                    state_.random_in_progress)) {
     return;
   }
+  // A Terminal charges here and its Master again; that is meant.
   if (!hand_to_master(path)) {
     if (!play_now) {
       std::string cover = CoverFor(FolderOf(path));
       if (play_next) {
+        // Before any earlier one that was to play next.
         queue_.InsertFirst(path, std::move(cover));
       } else {
         queue_.Append(path, std::move(cover));

@@ -31,6 +31,7 @@ void TrackSequence::Play_track3(std::string path) {
     ~GiveBack() { timer.SetEnabled(true); }
   } give_back{state_timer_};
 
+  // Muted here and never opened again; that is meant.
   if (settings_.mute_line_in_on_play) hooks.mute_line_in();
   tags_.ReadFor(TagCaller::kPlayTrack, path);
   ShowNames();
@@ -44,6 +45,7 @@ void TrackSequence::Play_track3(std::string path) {
     const std::string cdg = path.substr(0, path.size() - 3) + "CDG";
     if (FileExists(cdg)) path = cdg;
   }
+  // In this order a sidecar's name never becomes karaoke and goes on as audio.
   if (KindOf(path) == "TAG" && path.size() >= 4) path.resize(path.size() - 4);
 
   engine_.OpenMedia(path, false);
@@ -71,6 +73,7 @@ void TrackSequence::Play_track3(std::string path) {
 }
 
 void TrackSequence::ShowNames() {
+  // The "Next Song:" panel takes the playing names too, until it is painted again; that is meant.
   for (Label* artist : {&form1_.now_playing_artist, &form1_.now_playing.artist,
                         &form1_.now_playing.next_song_artist}) {
     artist->SetCaption(fields_.txtArtist);
@@ -99,6 +102,7 @@ void TrackSequence::BranchOnKind(const std::string& path) {
     return;
   }
   hooks.close_visualisation();
+  // The microphone opens for all that isn't audio.
   if (settings_.enable_mic_on_videos) hooks.mute_microphone(false);
   if (settings_.use_second_monitor) hooks.show_second_monitor(true);
   screen.video.SetVisible(!settings_.use_second_monitor);

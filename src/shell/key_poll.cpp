@@ -57,6 +57,7 @@ void KeyPoll::On(size_t slot, Action action) {
 }
 
 void KeyPoll::PollKeys() {
+  // Not even the Power Off key lives then; spool files are served all the same.
   if (house_.settings.disable_keymapping) return PollEscapeOnly();
   PollTrackList();
   PollAlbumPages();

@@ -169,6 +169,7 @@ void Navigation::PressTrackRow(int row) {
   const std::string path = list.PathOfRow(row);
   house_.play_options.show_play_options(path, screen::kTrackList);
   house_.tags.ReadFor(TagCaller::kTrackRowClick, path);
+  // An M4A or WMA still carries the genre of the file before; that is meant.
   if (UpperCase(house_.fields.txtGenre) == "ADULT") {
     house_.form1.panel(screen::kPlayOptions).SetVisible(false);
     ask_for_pin(screen::kPlayOptions);

@@ -58,6 +58,7 @@ void Ticks::CheckCalendar() {
 }
 
 void Ticks::TickTicker() {
+  // It hides only while the second monitor is in use; that is meant.
   if (!house_.settings.use_second_monitor || !hooks.ticker_visible()) return;
   if (++house_.state.ticker_seconds < kTickerSeconds) return;
   hooks.hide_ticker();
@@ -69,6 +70,7 @@ void Ticks::TickIdle() {
   Form1& form = house_.form1;
   // Anything but a number counts as 0 and switches at once.
   const double limit = NumberOrZero(house_.settings.now_playing_wait);
+  // Behind the options the count goes on, so it switches at once when they close; that is meant.
   if (state.idle_seconds <= limit || form.panel(screen::kOptions).visible()) {
     ++state.idle_seconds;
     return;
@@ -79,6 +81,8 @@ void Ticks::TickIdle() {
     form.HideAllScreens();
     form.ShowScreen(screen::kNowPlaying);
   }
+  // Over silence or a paused track a change comes each tick, and the seconds count whether attract
+  // mode is on or off; both are meant.
   if ((showing || !playing) && house_.settings.attract_enabled &&
       (state.attract_seconds > NumberOrZero(house_.settings.attract_delay) || !playing)) {
     hooks.attract_change();
@@ -97,6 +101,7 @@ bool Ticks::ItIsTimeToLeave() const {
   const Settings& settings = house_.settings;
   if (!settings.exit_program_at || settings.exit_time < 0) return false;
   const std::string& time = house_.lists.exit_times[static_cast<size_t>(settings.exit_time)];
+  // As texts: the first five characters of the time are its hour and minute.
   return TimeText(house_.machine.clock.Now()).substr(0, 5) == TrimBlanks(time);
 }
 
@@ -136,7 +141,7 @@ void Ticks::StartQueueHead() {
       ~Remove() { queue.RemoveAt(0); }
     } remove{house_.queue};
     house_.tracks.Play_track3(path);
-    // Also over a track that was gone.
+    // Over the cover that the start has shown, and also over a track that was gone; that is meant.
     house_.tracks.ShowCover(house_.covers.OrNotFound(cover));
   }
   if (house_.settings.shuffle_queue_each_play) {
@@ -148,6 +153,7 @@ void Ticks::StartQueueHead() {
 
 void Ticks::CountDeadAir() {
   ShellState& state = house_.state;
+  // An empty field is 0: the first dead tick starts the next one.
   const double wait = NumberOrZero(house_.settings.wait_between_tracks);
   ++state.random_wait_seconds;
   if (wait > state.random_wait_seconds) return ClearPlayingInfoOnce();

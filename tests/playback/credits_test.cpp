@@ -30,6 +30,14 @@ TEST_F(CreditsTest, TheSumTakenIsReadAcrossTheGridFromTheSumShown) {
   EXPECT_EQ(Caption(), "CREDITS:  86");
 }
 
+TEST_F(CreditsTest, PricesAreSavedAsTheyWereRead) {
+  Start();
+  const std::string read = folder.Read("cost.dat");
+  std::filesystem::remove(folder.native() / "cost.dat");
+  house().credits.SaveCost();
+  EXPECT_EQ(folder.Read("cost.dat"), read);
+}
+
 TEST_F(CreditsTest, WithTooFewNothingIsAddedOrTaken) {
   Start();
   house().credits.Receive("2");
