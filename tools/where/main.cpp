@@ -41,7 +41,6 @@ void SayAll(const Form1& form) {
   Say("play_next", form.play_options.play_next);
   Say("add_to_queue", form.play_options.add_to_queue);
   Say("cancel", form.play_options.cancel);
-  Say("play_message", form.play_options.message);
   for (size_t i = 0; i < form.queue.rows.size(); ++i) {
     Say("queue" + std::to_string(i), form.queue.rows[i].touch);
   }
