@@ -49,18 +49,23 @@ void Credits::SaveCost() const {
 
 int Credits::PriceAt(size_t list, size_t index) const { return price_grid_[list][index] + 1; }
 
-bool Credits::ChargeForSelection(int media_kind, bool play_now, bool play_next,
-                                 bool machine_chose) {
-  if (!settings_.enable_credit_mode || machine_chose) return true;
-  if (media_kind < 0 || media_kind > 2 || (play_now && play_next)) return true;
+std::optional<int> Credits::ChargeForSelection(int media_kind, bool play_now, bool play_next,
+                                               bool machine_chose) {
+  if (!settings_.enable_credit_mode || machine_chose) return 0;
+  if (media_kind < 0 || media_kind > 2 || (play_now && play_next)) return 0;
   const PlayWay way = play_now    ? PlayWay::kPlayNow
                       : play_next ? PlayWay::kPlayNext
                                   : PlayWay::kAddToQueue;
   const int price = PriceAt(static_cast<size_t>(way), static_cast<size_t>(media_kind));
-  if (count_ < price) return false;
+  if (count_ < price) return {};
   count_ -= price;
   ShowCreditState();
-  return true;
+  return price;
+}
+
+void Credits::GiveBack(int price) {
+  count_ += price;
+  ShowCreditState();
 }
 
 int Credits::ShownPrice(int media_kind, PlayWay way) const {

@@ -3,6 +3,7 @@
 #define SONOTIK_ACCESS_CREDITS_H_
 
 #include <array>
+#include <optional>
 #include <string>
 
 #include "config/option_lists.h"
@@ -30,10 +31,14 @@ class Credits {
   void LoadCost();
   void SaveCost() const;
 
-  // Takes the price of an add. False: too few credits, and nothing may be added. Nothing is taken
-  // while credit mode is off, for the machine's own selections, on a page that is neither audio,
-  // video nor karaoke, and when both flags are set, since that is no row of the grid.
-  bool ChargeForSelection(int media_kind, bool play_now, bool play_next, bool machine_chose);
+  // Takes the price of an add and says what it took; nothing said: too few credits, and nothing may
+  // be added. 0 is taken while credit mode is off, for the machine's own selections, on a page that
+  // is neither audio, video nor karaoke, and when both flags are set, since that is no row of the
+  // grid.
+  std::optional<int> ChargeForSelection(int media_kind, bool play_now, bool play_next,
+                                        bool machine_chose);
+  // A price back into the guest's hand: the add came to nothing.
+  void GiveBack(int price);
 
   // The price of a way as the play options show it. Shown and taken cells are transposed: the sum
   // shown may differ from the sum taken, and that is meant.

@@ -19,4 +19,10 @@ void KeyMap::LoadKeyMap() {
   }
 }
 
+void KeyMap::SaveKeyMap() const {
+  LineWriter writer;
+  for (const int code : codes_) writer.Number(static_cast<long>(code));
+  ReplaceFile(app_path_ + "\\keyboard.dat", writer.text());
+}
+
 }  // namespace sonotik

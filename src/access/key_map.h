@@ -13,6 +13,7 @@ class KeyMap {
 
   // keyboard.dat, 35 numbers; without the file no key is mapped.
   void LoadKeyMap();
+  void SaveKeyMap() const;
 
   int code(size_t slot) const { return codes_[slot]; }
   void SetCode(size_t slot, int code) { codes_[slot] = code; }

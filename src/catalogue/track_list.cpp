@@ -8,12 +8,13 @@ namespace sonotik {
 
 TrackList::TrackList(const std::string& app_path, const Settings& settings, Catalogue& catalogue,
                      CatalogueCursor& cursor, const CoverLayout& layout, const CoverFinder& covers,
-                     TagReader& tags, const TagFields& fields, Form1& form)
+                     const AlbumPages& pages, TagReader& tags, const TagFields& fields, Form1& form)
     : settings_(settings),
       catalogue_(catalogue),
       cursor_(cursor),
       layout_(layout),
       covers_(covers),
+      pages_(pages),
       tags_(tags),
       fields_(fields),
       form1_(form),
@@ -29,6 +30,14 @@ void TrackList::Open(const std::string& album_path) {
   // The files as they are now; turning pages of one visit keeps to one list.
   album_files_.Refresh();
   track_List2(album_path);
+}
+
+void TrackList::show_album(const std::string& path) {
+  const std::string folder = FolderOf(path);
+  for (int position = 0; !folder.empty() && position < layout_.covers_per_page; ++position) {
+    const std::string shown = pages_.FolderAt(position);
+    if (ContainsIgnoringCase(shown, folder.substr(0, folder.size() - 1))) return Open(shown);
+  }
 }
 
 void TrackList::track_List2(const std::string& album_path) {
@@ -66,7 +75,6 @@ void TrackList::FillRow(int row, int file) {
   TrackRow& labels = screen_.rows[static_cast<size_t>(row)];
   labels.title.SetVisible(true);
   labels.time.SetVisible(true);
-  last_row_ = row;
   tags_.ReadFor(TagCaller::kTrackList, album_files_.PathAt(file));
   std::string title = fields_.txtTitle;
   if (settings_.use_filename_if_no_tag && (title == kNoTag || title.empty())) {

@@ -16,13 +16,15 @@ class TrackList {
  public:
   TrackList(const std::string& app_path, const Settings& settings, Catalogue& catalogue,
             CatalogueCursor& cursor, const CoverLayout& layout, const CoverFinder& covers,
-            TagReader& tags, const TagFields& fields, Form1& form);
+            const AlbumPages& pages, TagReader& tags, const TagFields& fields, Form1& form);
 
   // Fills the screen for a folder, from the first row's track on. A folder that is gone keeps the
   // files of the album before.
   void track_List2(const std::string& album_path);
   // A new album from its first track, without a highlighted row.
   void Open(const std::string& album_path);
+  // The album of a track, if the cover page shows it.
+  void show_album(const std::string& path);
   // "Up" is -1, "Down" is 1.
   void StepPage(int direction);
   // The strip of other albums by the artist.
@@ -57,6 +59,7 @@ class TrackList {
   CatalogueCursor& cursor_;
   const CoverLayout& layout_;
   const CoverFinder& covers_;
+  const AlbumPages& pages_;
   TagReader& tags_;
   const TagFields& fields_;
   Form1& form1_;
@@ -65,7 +68,6 @@ class TrackList {
   int rows_per_page_ = kMostTrackRows;
   int page_top_ = 0;
   int selected_row_ = -1;
-  int last_row_ = -1;
   bool compilation_ = false;
   bool album_queued_ = false;
   std::string artist_of_row_before_;

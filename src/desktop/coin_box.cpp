@@ -16,6 +16,9 @@ void CoinBox::Open(const std::string& folder, std::function<void(const std::stri
   });
 }
 
-void CoinBox::CloseFeeder() { PutIntoTextBox(folder_, kCreditModuleBox, "close"); }
+bool CoinBox::CloseFeeder() {
+  // Not waited for: a feeder that is stopped must not hold the program's end.
+  return PutIntoTextBox(folder_, kCreditModuleBox, "close", false) != BoxAnswer::kGone;
+}
 
 }  // namespace sonotik

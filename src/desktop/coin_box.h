@@ -14,7 +14,7 @@ namespace sonotik {
 class CoinBox : public CoinIntake {
  public:
   void Open(const std::string& folder, std::function<void(const std::string&)> on_text) override;
-  void CloseFeeder() override;
+  bool CloseFeeder() override;
 
  private:
   std::string folder_;

@@ -8,6 +8,7 @@
 #include "desktop/alsa_errors.h"
 #include "desktop/coin_box.h"
 #include "desktop/form_window.h"
+#include "desktop/logind_session.h"
 #include "desktop/mpv_player.h"
 #include "desktop/qt_machine.h"
 #include "desktop/signals.h"
@@ -35,10 +36,12 @@ int RunJukebox(const std::string& app_path) {
   QtProcesses processes;
   QtMessageBox messages;
   CoinBox coins;
+  LogindSession session(QDBusConnection::systemBus());
   MpvPlayer player([](std::function<void()> call) {
     QMetaObject::invokeMethod(qApp, std::move(call), Qt::QueuedConnection);
   });
-  Machine machine{clock, random, loop, timers, keys, player, displays, processes, messages, coins};
+  Machine machine{clock,    random,    loop,     timers, keys,   player,
+                  displays, processes, messages, coins,  session};
   PictureCache pictures;
   Jukebox jukebox(app_path, machine);
   Form1& form1 = jukebox.house.form1;

@@ -69,16 +69,21 @@ std::optional<std::string> TextBox::Take() {
   return std::string(text, static_cast<size_t>(length));
 }
 
-bool PutIntoTextBox(std::string_view folder, const std::string& name, std::string_view text) {
+BoxAnswer PutIntoTextBox(std::string_view folder, const std::string& name, std::string_view text,
+                         bool wait) {
   const int open_folder = OpenFolder(folder);
   const int sender = ::socket(AF_UNIX, SOCK_DGRAM | SOCK_CLOEXEC, 0);
   sockaddr_un address;
-  const bool sent = AddressOf(open_folder, name, address) &&
-                    ::sendto(sender, text.data(), text.size(), MSG_NOSIGNAL, Generic(address),
-                             sizeof address) >= 0;
+  BoxAnswer answer = BoxAnswer::kNobody;
+  if (AddressOf(open_folder, name, address) &&
+      ::connect(sender, Generic(address), sizeof address) == 0) {
+    const int flags = MSG_NOSIGNAL | (wait ? 0 : MSG_DONTWAIT);
+    const bool sent = ::send(sender, text.data(), text.size(), flags) >= 0;
+    answer = sent ? BoxAnswer::kTaken : BoxAnswer::kGone;
+  }
   if (sender >= 0) ::close(sender);
   if (open_folder >= 0) ::close(open_folder);
-  return sent;
+  return answer;
 }
 
 }  // namespace sonotik

@@ -34,8 +34,15 @@ class TextBox {
   std::string name_;
 };
 
-// Puts a text into a box. False if there is no such box or nobody who keeps it.
-bool PutIntoTextBox(std::string_view folder, const std::string& name, std::string_view text);
+enum class BoxAnswer {
+  kTaken,
+  kNobody,  // there is no such box, or nobody who keeps it
+  kGone,    // somebody kept it a moment ago, and takes nothing now
+};
+
+// Puts a text into a box. A full one is waited for, unless `wait` is false: then it counts as gone.
+BoxAnswer PutIntoTextBox(std::string_view folder, const std::string& name, std::string_view text,
+                         bool wait = true);
 
 // Where coins arrive, and where the program that feeds them is asked to end.
 inline constexpr char kCoinBox[] = "Invisible Window to Receive a String";

@@ -1,5 +1,7 @@
 #include "peripherals/network.h"
 
+#include <algorithm>
+
 #include "files/files.h"
 #include "files/line_format.h"
 #include "files/runtime_failure.h"
@@ -53,6 +55,9 @@ void Network::SetRole(bool master, bool terminal) {
 }
 
 void Network::WriteSpool(const SpooledSelection& selection) const {
+  if (selection.path.find_first_of("\r\n") != std::string::npos) {
+    throw RuntimeFailure("a path of two lines can't be handed over");
+  }
   std::string name = shared_folder_ + "Queue.QUE";
   for (long counter = 1; FileExists(name); ++counter) {
     name = shared_folder_ + "Queue" + NumberCaption(counter) + ".QUE";
@@ -73,13 +78,24 @@ std::optional<SpooledSelection> Network::ReadSpool() {
     if (stamp.size <= 0 || stamp.size > kLongestSpool || !FileExists(served_)) continue;
     if (served_ == stuck_ && stamp == stuck_stamp_) continue;
     try {
-      return Parse(ReadWholeFile(served_));
+      const std::string text = ReadWholeFile(served_);
+      if (StillWritten(stamp, text)) continue;
+      return Parse(text);
     } catch (const RuntimeFailure&) {
       RemoveSpool();
       throw;
     }
   }
   return {};
+}
+
+bool Network::StillWritten(const FileStamp& stamp, const std::string& text) {
+  if (std::count(text.begin(), text.end(), '\n') >= 3) return false;
+  if (served_ != unfinished_ || !(stamp == unfinished_stamp_)) looks_ = 0;
+  unfinished_ = served_;
+  unfinished_stamp_ = stamp;
+  // Whoever writes by hand may leave the last line open for good.
+  return ++looks_ < kPatience;
 }
 
 void Network::RemoveSpool() {

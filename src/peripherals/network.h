@@ -37,19 +37,27 @@ class Network {
   // Terminal: writes the selection under the first free name, "Queue.QUE", "Queue 1.QUE", ... Two
   // that choose one name at the same moment both write into it, and the first of them is taken.
   void WriteSpool(const SpooledSelection& selection) const;
+  static constexpr int kPatience = 300;
   // Master: the first spool file of the own folder, for Remove to delete once it is served. One
-  // that is still empty is being written and waits; one that can't be read is deleted at once, or
-  // nothing behind it would ever be served, and throws RuntimeFailure.
+  // whose third line hasn't ended is being written and waits, until it has stood still for
+  // kPatience looks; one that can't be read is deleted at once, or nothing behind it would ever be
+  // served, and throws RuntimeFailure.
   std::optional<SpooledSelection> ReadSpool();
   void RemoveSpool();
 
  private:
+  bool StillWritten(const FileStamp& stamp, const std::string& text);
+
   const std::string& app_path_;
   std::string shared_folder_;
   bool master_ = false;
   bool terminal_ = false;
   FileList spool_files_{"*.que"};
   std::string served_;
+  // The file that isn't whole yet, as it was at the last look, and the looks since it changed.
+  std::string unfinished_;
+  FileStamp unfinished_stamp_;
+  int looks_ = 0;
   // A served file that can't be deleted, as it then was: it is not served again.
   std::string stuck_;
   FileStamp stuck_stamp_;

@@ -13,8 +13,8 @@ class CoinIntake {
   // Opens the box of this folder (a program path); from then on each text comes from the event
   // loop, whole and alone. A box that can't be opened takes nothing.
   virtual void Open(const std::string& folder, std::function<void(const std::string&)> on_text) = 0;
-  // Asks the program that feeds the box to end.
-  virtual void CloseFeeder() = 0;
+  // Asks the program that feeds the box to end. False if it was there and can't be asked any more.
+  virtual bool CloseFeeder() = 0;
 };
 
 }  // namespace sonotik

@@ -12,6 +12,7 @@
 #include "platform/player.h"
 #include "platform/processes.h"
 #include "platform/random_source.h"
+#include "platform/session.h"
 #include "platform/timers.h"
 
 namespace sonotik {
@@ -27,6 +28,7 @@ struct Machine {
   Processes& processes;
   MessageBox& messages;
   CoinIntake& coins;
+  Session& session;
 };
 
 }  // namespace sonotik

@@ -38,6 +38,27 @@ class Timer {
   int64_t due_ = 0;
   bool enabled_ = false;
   bool retired_ = false;
+  int holds_ = 0;
+
+  friend class TimerHold;
+};
+
+// Holds a timer off for the length of a handler and switches it on at its end, however that comes.
+// Events that run inside may hold it again: the outermost alone gives it back.
+class TimerHold {
+ public:
+  explicit TimerHold(Timer& timer) : timer_(timer) {
+    ++timer_.holds_;
+    timer_.SetEnabled(false);
+  }
+  ~TimerHold() {
+    if (--timer_.holds_ == 0) timer_.SetEnabled(true);
+  }
+  TimerHold(const TimerHold&) = delete;
+  TimerHold& operator=(const TimerHold&) = delete;
+
+ private:
+  Timer& timer_;
 };
 
 class Timers {

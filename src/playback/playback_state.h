@@ -17,6 +17,8 @@ struct PlaybackState {
   // The box "Enable Random Play" can be ticked; on a Terminal it can't.
   bool random_play_available = true;
   bool paused = false;
+  // How many tracks the player was given so far.
+  unsigned long opened = 0;
   // Of the track started last; the folder ends in "\".
   std::string current_track_path;
   std::string current_track_folder;

@@ -1,7 +1,10 @@
 #include "playback/queue.h"
 
+#include <algorithm>
+
 #include "files/files.h"
 #include "files/line_format.h"
+#include "files/runtime_failure.h"
 #include "text/numbers.h"
 #include "text/text.h"
 
@@ -32,6 +35,12 @@ void Queue::Append(std::string path, std::string cover) {
 void Queue::InsertFirst(std::string path, std::string cover) {
   paths_.insert(paths_.begin(), std::move(path));
   covers_.insert(covers_.begin(), std::move(cover));
+}
+
+int Queue::IndexOf(const std::string& path, int guess) const {
+  if (this->path(guess) == path) return guess;
+  const auto found = std::find(paths_.begin(), paths_.end(), path);
+  return found == paths_.end() ? -1 : static_cast<int>(found - paths_.begin());
 }
 
 void Queue::RemoveAt(int index) {
@@ -109,11 +118,16 @@ const Queue::Names& Queue::NamesOf(const std::string& path, std::map<std::string
     return names;
   }
   LineWriter writer;
-  tags_.ReadFor(TagCaller::kQueueUpl, path);
-  writer.Text(fields_.txtArtist);
-  writer.Text(fields_.txtTitle);
-  writer.Text(fields_.txtAlbum);
-  names.lines = writer.text();
+  try {
+    tags_.ReadFor(TagCaller::kQueueUpl, path);
+    writer.Text(fields_.txtArtist);
+    writer.Text(fields_.txtTitle);
+    writer.Text(fields_.txtAlbum);
+    names.lines = writer.text();
+  } catch (const RuntimeFailure&) {
+    // One damaged file must not keep the others out of the list.
+    names.lines = "\r\n\r\n\r\n";
+  }
   return names;
 }
 

@@ -26,6 +26,8 @@ class Queue {
 
   void Append(std::string path, std::string cover);
   void InsertFirst(std::string path, std::string cover);
+  // The entry of this path, `guess` if that is one, else the first; -1 if there is none.
+  int IndexOf(const std::string& path, int guess) const;
   // Both ignore an index outside the queue.
   void RemoveAt(int index);
   void Move(int from, int to);

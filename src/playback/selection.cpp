@@ -1,6 +1,7 @@
 #include "playback/selection.h"
 
 #include "files/paths.h"
+#include "files/runtime_failure.h"
 
 namespace sonotik {
 
@@ -20,31 +21,46 @@ Selection::Selection(const Settings& settings, PlaybackState& state, const Catal
 void Selection::add_queue4(const std::string& path) {
   const bool play_now = state_.play_now_flag != 0;
   const bool play_next = state_.play_next_flag != 0;
-  if (!credits_.ChargeForSelection(cursor_.media_kind, play_now, play_next,
-                                   state_.random_in_progress)) {
-    return;
-  }
-  // A Terminal charges here and its Master again; that is meant.
-  if (!hand_to_master(path)) {
-    if (!play_now) {
-      std::string cover = CoverFor(FolderOf(path));
-      if (play_next) {
-        // Before any earlier one that was to play next.
-        queue_.InsertFirst(path, std::move(cover));
-      } else {
-        queue_.Append(path, std::move(cover));
-      }
-    } else if (!state_.paused) {
-      tracks_.Play_track3(path);
-    }
-    // Over a paused track the request is dropped, although the credits are taken: that is meant.
+  const auto price = credits_.ChargeForSelection(cursor_.media_kind, play_now, play_next,
+                                                 state_.random_in_progress);
+  if (!price) return;
+  const unsigned long opened = state_.opened;
+  try {
+    Add(path, play_now, play_next);
+  } catch (const RuntimeFailure&) {
+    // A shared folder that is gone, a tag that can't be read: nobody pays for what never began.
+    if (state_.opened == opened) credits_.GiveBack(*price);
+    throw;
   }
   if (settings_.use_second_monitor && !play_now) {
     tags_.ReadFor(TagCaller::kAddQueue, path);
     if (!state_.random_in_progress) announce(play_next);
   }
-  view_.show_next();
+  try {
+    view_.show_next();
+  } catch (const RuntimeFailure&) {
+    // The next song's damaged tag is no matter of the list for others.
+    queue_.Export();
+    throw;
+  }
   queue_.Export();
+}
+
+void Selection::Add(const std::string& path, bool play_now, bool play_next) {
+  // A Terminal charges here and its Master again; that is meant.
+  if (hand_to_master(path)) return;
+  if (!play_now) {
+    std::string cover = CoverFor(FolderOf(path));
+    if (play_next) {
+      // Before any earlier one that was to play next.
+      queue_.InsertFirst(path, std::move(cover));
+    } else {
+      queue_.Append(path, std::move(cover));
+    }
+  } else if (!state_.paused) {
+    tracks_.Play_track3(path);
+  }
+  // Over a paused track the request is dropped, although the credits are taken: that is meant.
 }
 
 std::string Selection::CoverFor(const std::string& folder) const {

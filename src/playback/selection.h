@@ -32,6 +32,7 @@ class Selection {
   void Choose(const std::string& path, PlayWay way);
 
  private:
+  void Add(const std::string& path, bool play_now, bool play_next);
   std::string CoverFor(const std::string& folder) const;
 
   const Settings& settings_;

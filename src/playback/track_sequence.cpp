@@ -26,10 +26,7 @@ void TrackSequence::Play_track3(std::string path) {
   path = TrimBlanks(path);
   if (!FileExists(path)) return;
   // Whatever fails behind this point, the tick goes on.
-  const struct GiveBack {
-    Timer& timer;
-    ~GiveBack() { timer.SetEnabled(true); }
-  } give_back{state_timer_};
+  const TimerHold hold(state_timer_);
 
   // Muted here and never opened again; that is meant.
   if (settings_.mute_line_in_on_play) hooks.mute_line_in();
@@ -49,6 +46,7 @@ void TrackSequence::Play_track3(std::string path) {
   if (KindOf(path) == "TAG" && path.size() >= 4) path.resize(path.size() - 4);
 
   engine_.OpenMedia(path, false);
+  ++state_.opened;
   // Behind the opening, which lets events run: a pause pressed in there was the track before's.
   state_.paused = false;
   form1_.paused.SetVisible(false);

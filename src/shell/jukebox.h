@@ -26,6 +26,7 @@ class Jukebox {
         keys(house, navigation),
         shutdown(house) {
     ticks.hooks.PollKeys = [this] { keys.PollKeys(); };
+    keys.hooks.power_down = [this] { shutdown.power_down(); };
     ticks.hooks.leave_program = [this] { shutdown.TimedExit(); };
   }
 

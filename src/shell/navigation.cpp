@@ -272,6 +272,8 @@ void Navigation::PlayQueueEntry() {
   const std::string path = house_.queue.path(house_.queue_view.selection());
   house_.queue_view.HideRowCommands();
   if (!path.empty()) Choose(path, PlayWay::kPlayNow);
+  // The start lets events run, and what was added meanwhile may have moved the entry.
+  house_.queue_view.SetSelection(house_.queue.IndexOf(path, house_.queue_view.selection()));
   house_.queue_view.Press(QueueCommand::kPlayNow);
 }
 

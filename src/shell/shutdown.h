@@ -8,10 +8,13 @@
 
 namespace sonotik {
 
-// What others give back when the program leaves; nothing until they fill it in.
+// What others close, give back or save when the program leaves, in the order in which it happens;
+// nothing until they fill it in.
 struct ShutdownHooks {
+  std::function<void()> send_closing_text = [] {};
   std::function<void()> ShowTaskbar = [] {};
   std::function<void()> RestoreResolution = [] {};
+  std::function<void()> save_random = [] {};
 };
 
 class Shutdown {
@@ -20,11 +23,19 @@ class Shutdown {
 
   ShutdownHooks hooks;
 
-  // The timed exit, and what a service manager's request comes to: the desktop is given back, the
-  // queue saved if the setting says so, the shutdown command started, the program ended.
+  // The operator's way out: closes what plays beside, saves what the settings ask for and ends the
+  // session as chosen. What was to be saved is on the disk before the session is asked to end.
+  void power_down();
+  // The timed exit, and what a service manager's request comes to. It leaves the player beside, the
+  // sign, random.dat and the session alone; that is meant.
   void TimedExit();
 
  private:
+  void SaveQueue();
+  void RunCommand();
+  void EndSession();
+  void Unload();
+
   Assembly& house_;
 };
 

@@ -12,18 +12,6 @@ constexpr int kTickerSeconds = 10;
 // From here on the position label stands still for the rest of a very long track; that is meant.
 constexpr double kLastShownPosition = 1000.0;
 
-// Switches a timer off for the length of its handler and on at its end, however that comes.
-class OffMeanwhile {
- public:
-  explicit OffMeanwhile(Timer& timer) : timer_(timer) { timer_.SetEnabled(false); }
-  ~OffMeanwhile() { timer_.SetEnabled(true); }
-  OffMeanwhile(const OffMeanwhile&) = delete;
-  OffMeanwhile& operator=(const OffMeanwhile&) = delete;
-
- private:
-  Timer& timer_;
-};
-
 }  // namespace
 
 Ticks::Ticks(Assembly& house) : house_(house) {
@@ -34,7 +22,7 @@ Ticks::Ticks(Assembly& house) : house_(house) {
 }
 
 void Ticks::StateTick() {
-  const OffMeanwhile off(house_.state_timer);
+  const TimerHold off(house_.state_timer);
   CheckCalendar();
   TickTicker();
   hooks.TickSongFacts();
@@ -190,7 +178,7 @@ void Ticks::TakeSpoolFile() {
 }
 
 void Ticks::Poll() {
-  const OffMeanwhile off(house_.timer1);
+  const TimerHold off(house_.timer1);
   // One file a poll; what fails in it leaves the credits and the keys alone.
   if (house_.network.master()) {
     house_.boundary.Run("spool file", [this] { TakeSpoolFile(); });

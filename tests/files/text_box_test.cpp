@@ -10,17 +10,17 @@ namespace {
 
 TEST(TextBoxes, HandOverEachTextWholeAndAlone) {
   const TempFolder folder;
-  EXPECT_FALSE(PutIntoTextBox(folder.path(), kCoinBox, "1"));
+  EXPECT_EQ(PutIntoTextBox(folder.path(), kCoinBox, "1"), BoxAnswer::kNobody);
   TextBox box;
   ASSERT_TRUE(box.Open(folder.path(), kCoinBox));
   EXPECT_EQ(box.Take(), std::nullopt);
   for (const std::string& text : {std::string("2"), std::string(), std::string("a\0b", 3)}) {
-    EXPECT_TRUE(PutIntoTextBox(folder.path(), kCoinBox, text));
+    EXPECT_EQ(PutIntoTextBox(folder.path(), kCoinBox, text), BoxAnswer::kTaken);
   }
   EXPECT_EQ(box.Take(), "2");
   EXPECT_EQ(box.Take(), "");
   EXPECT_EQ(box.Take(), std::string("a\0b", 3));
-  EXPECT_TRUE(PutIntoTextBox(folder.path(), kCoinBox, std::string(3000, '7')));
+  EXPECT_EQ(PutIntoTextBox(folder.path(), kCoinBox, std::string(3000, '7')), BoxAnswer::kTaken);
   EXPECT_EQ(box.Take(), std::string(TextBox::kLongestText, '7'));
   EXPECT_EQ(box.Take(), std::nullopt);
 }
@@ -46,7 +46,7 @@ TEST(TextBoxes, WorkInAFolderWhosePathIsLongerThanAnAddress) {
   const std::string path = ProgramPath(folder.native() / deep);
   TextBox box;
   ASSERT_TRUE(box.Open(path, kCoinBox));
-  EXPECT_TRUE(PutIntoTextBox(path, kCoinBox, "5"));
+  EXPECT_EQ(PutIntoTextBox(path, kCoinBox, "5"), BoxAnswer::kTaken);
   EXPECT_EQ(box.Take(), "5");
 }
 

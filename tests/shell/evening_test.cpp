@@ -297,6 +297,56 @@ TEST_F(EveningTest, ADoubleTapPaysOnceAndEventsDuringAStartChangeNoRecord) {
   EXPECT_TRUE(machine.player.playing());
 }
 
+TEST_F(EveningTest, AStartWithinAStartLeavesTheTickOffUntilTheOuterOneIsDone) {
+  Start();
+  int inner = 0;
+  machine.events.on_pump = [&] {
+    if (++inner != 1) return;
+    house().tracks.Play_track3(tracks[1]);
+    EXPECT_FALSE(house().state_timer.enabled());
+  };
+  house().queue.Append(tracks[0], "");
+  Advance(1);
+  EXPECT_GT(inner, 1);
+  EXPECT_TRUE(house().state_timer.enabled());
+}
+
+TEST_F(EveningTest, TheQueueEntryPlayedNowIsTheOneThatGoesWhateverCameBefore) {
+  Start();
+  house().selection.Choose(tracks[0], PlayWay::kPlayNow);
+  house().selection.Choose(tracks[1], PlayWay::kAddToQueue);
+  house().selection.Choose(tracks[2], PlayWay::kAddToQueue);
+  Click(form().menu_buttons[static_cast<size_t>(MenuButton::kShowQueue)]);
+  Click(form().queue.rows[1].touch);
+  bool came = false;
+  machine.events.on_pump = [&] {
+    if (!came) house().selection.Choose(tracks[0], PlayWay::kPlayNext);
+    came = true;
+  };
+  Click(form().queue.commands[static_cast<size_t>(QueueCommand::kPlayNow)]);
+  EXPECT_EQ(Playing(), tracks[2]);
+  ASSERT_EQ(house().queue.count(), 2);
+  EXPECT_EQ(house().queue.path(0), tracks[0]);
+  EXPECT_EQ(house().queue.path(1), tracks[1]);
+}
+
+TEST_F(EveningTest, PlayNowOfAFileThatCanNotBeReadCostsNothing) {
+  settings.enable_credit_mode = true;
+  WriteDefaults();
+  folder.Write("cost.dat", " 1 \r\n 1 \r\n 1 \r\n 1 \r\n 1 \r\n 1 \r\n 1 \r\n 1 \r\n 1 \r\n");
+  folder.Write("music/Day/broken.wav", "x");
+  folder.Write("music/Day/broken.wav.tag", "too short");
+  Start();
+  house().credits.Receive("5");
+  jukebox->navigation.Choose(AlbumPath("Day") + "broken.wav", PlayWay::kPlayNow);
+  EXPECT_EQ(house().credits.count(), 5);
+  // Queued it is paid for, stands in the list without names and keeps no other out of it.
+  jukebox->navigation.Choose(AlbumPath("Day") + "broken.wav", PlayWay::kAddToQueue);
+  jukebox->navigation.Choose(tracks[0], PlayWay::kAddToQueue);
+  EXPECT_EQ(house().credits.count(), 1);
+  EXPECT_NE(folder.Read("queue.upl").find("Cover.jpg\r\nAda\r\nDawn\r\n"), std::string::npos);
+}
+
 TEST_F(EveningTest, AFailingHandlerGivesItsTimerBack) {
   Start();
   jukebox->ticks.hooks.TickSongFacts = [] { throw RuntimeFailure("no facts"); };

@@ -190,7 +190,7 @@ TEST_F(KeysTest, WithoutKeyMappingOnlyEscapeLivesAndTheSpoolIsServed) {
 TEST_F(KeysTest, AMasterServesOneFileAPollAndADamagedOneStopsNothing) {
   folder.Write("terminal.ini", "x\r\n\r\nTrue\r\nFalse\r\n");
   Start();
-  folder.Write("Queue 1.QUE", "rubbish\r\n");
+  folder.Write("Queue 1.QUE", "rubbish\r\n\r\n\r\n");
   folder.Write("Queue 2.que", "");
   folder.Write("Queue 0.que", " 0 \r\n 0 \r\n  \r\n");
   std::filesystem::create_symlink("gone", folder.native() / "A.que");
@@ -221,6 +221,42 @@ TEST_F(KeysTest, ATerminalHandsItsSelectionsOver) {
   EXPECT_EQ(house().queue.count(), 0);
   EXPECT_EQ(machine.player.file, "");
   EXPECT_TRUE(folder.Has("queue.upl"));
+}
+
+TEST_F(KeysTest, ATerminalWhoseShareIsGoneGivesThePriceBack) {
+  settings.enable_credit_mode = true;
+  WriteDefaults();
+  folder.Write("cost.dat", " 1 \r\n 1 \r\n 1 \r\n 1 \r\n 1 \r\n 1 \r\n 1 \r\n 1 \r\n 1 \r\n");
+  folder.Write("terminal.ini", "x\r\n" + folder.path() + "\\gone\\\r\nFalse\r\nTrue\r\n");
+  Start();
+  house().credits.Receive("5");
+  jukebox->navigation.Choose("\\m\\1.wav", PlayWay::kAddToQueue);
+  EXPECT_EQ(house().credits.count(), 5);
+  EXPECT_EQ(form().credits.caption(), "CREDITS:  5");
+  EXPECT_EQ(house().boundary.failures(), 1);
+}
+
+TEST_F(KeysTest, AHalfWrittenSpoolFileWaitsUntilItIsWholeOrStandsStill) {
+  folder.Write("terminal.ini", "x\r\n\r\nTrue\r\nFalse\r\n");
+  Start();
+  const auto poll = [this](int times) {
+    for (int i = 0; i < times; ++i) {
+      machine.clock.Add(10);
+      machine.timers.FireDue();
+    }
+  };
+  house().playback.paused = true;  // nothing leaves the queue
+  folder.Write("Queue.QUE", " 0 \r\n 1 \r\n\\m\\1.w");
+  poll(Network::kPatience - 1);
+  EXPECT_EQ(house().queue.count(), 0);
+  folder.Write("Queue.QUE", " 0 \r\n 1 \r\n\\m\\1.wav\r\n");
+  poll(1);
+  EXPECT_EQ(house().queue.path(0), "\\m\\1.wav");
+  folder.Write("Queue.QUE", " 0 \r\n 1 \r\n\\m\\2.wav");
+  poll(Network::kPatience - 1);
+  EXPECT_EQ(house().queue.count(), 1);
+  poll(1);
+  EXPECT_EQ(house().queue.path(0), "\\m\\2.wav");
 }
 
 }  // namespace

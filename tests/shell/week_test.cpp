@@ -44,6 +44,8 @@ class WeekTest : public JukeboxTest {
   void Open() {
     Start();
     ASSERT_EQ(result, StartUpResult::kRunning);
+    // Nobody switches it off before its evening ends.
+    jukebox->keys.hooks.power_down = [] {};
     house().selection.announce = [this](bool) { ++accepted; };
     house().tracks.hooks.send_to_sign = [this] { ++accepted; };
   }
@@ -100,7 +102,7 @@ class WeekTest : public JukeboxTest {
     const std::string flags =
         " " + std::to_string(Draw(2)) + " \r\n " + std::to_string(Draw(2)) + " \r\n";
     folder.Write("Queue " + std::to_string(Draw(5)) + ".QUE",
-                 rubbish ? "rubbish\r\n" : flags + AnyPath() + "\r\n");
+                 rubbish ? "rubbish\r\n\r\n\r\n" : flags + AnyPath() + "\r\n");
     machine.clock.Add(10);
     machine.timers.FireDue();
   }

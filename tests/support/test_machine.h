@@ -176,7 +176,21 @@ class TestCoins : public CoinIntake {
   void Open(const std::string&, std::function<void(const std::string&)> on_text) override {
     put = std::move(on_text);
   }
-  void CloseFeeder() override { feeder_closed = true; }
+  bool CloseFeeder() override {
+    feeder_closed = true;
+    return feeder_answers;
+  }
+  bool feeder_answers = true;
+};
+
+class TestSession : public Session {
+ public:
+  std::vector<SessionEnd> ends;
+  std::function<void()> on_end = [] {};
+  void End(SessionEnd how) override {
+    ends.push_back(how);
+    on_end();
+  }
 };
 
 struct TestMachine {
@@ -190,8 +204,9 @@ struct TestMachine {
   TestProcesses processes;
   TestMessages messages;
   TestCoins coins;
-  Machine machine{clock,  random,   events,    timers,   keys,
-                  player, displays, processes, messages, coins};
+  TestSession session;
+  Machine machine{clock,    random,    events,   timers, keys,   player,
+                  displays, processes, messages, coins,  session};
 };
 
 }  // namespace sonotik

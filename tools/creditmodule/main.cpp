@@ -6,6 +6,7 @@
 #include <poll.h>
 #include <unistd.h>
 
+#include <cerrno>
 #include <cstdlib>
 #include <iostream>
 #include <string>
@@ -18,7 +19,7 @@ namespace sonotik {
 namespace {
 
 int HandOver(const std::string& folder, const std::string& credits) {
-  if (PutIntoTextBox(folder, kCoinBox, credits)) return 0;
+  if (PutIntoTextBox(folder, kCoinBox, credits) == BoxAnswer::kTaken) return 0;
   std::cerr << "creditmodule: no jukebox takes coins in " << folder << std::endl;
   return 1;
 }
@@ -26,12 +27,12 @@ int HandOver(const std::string& folder, const std::string& credits) {
 int Stay(const std::string& folder) {
   // One feeder keeps the box in which it is asked to end; one more ends with its input.
   TextBox requests;
-  if (!PutIntoTextBox(folder, kCreditModuleBox, "anybody there?")) {
+  if (PutIntoTextBox(folder, kCreditModuleBox, "anybody there?") != BoxAnswer::kTaken) {
     requests.Open(folder, kCreditModuleBox);
   }
   bool in_line = false;
   pollfd waits[] = {{requests.descriptor(), POLLIN, 0}, {STDIN_FILENO, POLLIN, 0}};
-  while (::poll(waits, 2, -1) >= 0) {
+  while (::poll(waits, 2, -1) >= 0 || errno == EINTR) {
     while (waits[0].revents != 0) {
       const auto request = requests.Take();
       if (!request) break;

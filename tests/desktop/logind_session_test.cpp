@@ -1,0 +1,92 @@
+#include "desktop/logind_session.h"
+
+#include <gtest/gtest.h>
+
+#include <QDBusError>
+#include <QDBusMessage>
+#include <QDBusVirtualObject>
+#include <QEventLoop>
+#include <QProcess>
+#include <QThread>
+#include <memory>
+
+namespace sonotik {
+namespace {
+
+// A bus of the test's own, gone with it.
+class PrivateBus {
+ public:
+  PrivateBus() {
+    daemon_.start("dbus-daemon", {"--session", "--nofork", "--print-address"});
+    if (daemon_.waitForStarted() && daemon_.waitForReadyRead()) {
+      address_ = QString::fromUtf8(daemon_.readLine()).trimmed();
+    }
+  }
+  ~PrivateBus() {
+    daemon_.kill();
+    daemon_.waitForFinished();
+  }
+  const QString& address() const { return address_; }
+
+ private:
+  QProcess daemon_;
+  QString address_;
+};
+
+// Stands where the login manager stands and keeps what it was asked.
+class StandIn : public QDBusVirtualObject {
+ public:
+  QStringList asked;
+  bool refuse = false;
+  QString introspect(const QString&) const override { return {}; }
+  bool handleMessage(const QDBusMessage& message, const QDBusConnection& bus) override {
+    QStringList arguments;
+    for (const QVariant& argument : message.arguments()) arguments << argument.toString();
+    asked << message.interface() + "." + message.member() + "(" + arguments.join(",") + ")";
+    return bus.send(refuse ? message.createErrorReply(QDBusError::AccessDenied, "no")
+                           : message.createReply());
+  }
+};
+
+TEST(LogindSession, AsksTheLoginManagerWithoutAPassword) {
+  const PrivateBus daemon;
+  ASSERT_FALSE(daemon.address().isEmpty());
+  QDBusConnection service = QDBusConnection::connectToBus(daemon.address(), "stand-in");
+  StandIn manager;
+  ASSERT_TRUE(service.registerVirtualObject("/org/freedesktop/login1", &manager));
+  ASSERT_TRUE(service.registerService("org.freedesktop.login1"));
+  qputenv("XDG_SESSION_ID", "c7");
+  {
+    // The asker waits for the answer, so it has a thread of its own.
+    const std::unique_ptr<QThread> asker(QThread::create([&] {
+      LogindSession session(QDBusConnection::connectToBus(daemon.address(), "asker"));
+      for (const SessionEnd end : {SessionEnd::kLogOff, SessionEnd::kShutdown, SessionEnd::kReboot,
+                                   SessionEnd::kPowerOff}) {
+        session.End(end);
+      }
+      manager.refuse = true;
+      session.End(SessionEnd::kReboot);
+    }));
+    QEventLoop loop;
+    QObject::connect(asker.get(), &QThread::finished, &loop, &QEventLoop::quit);
+    asker->start();
+    loop.exec();
+    asker->wait();
+  }
+  const QString manager_name = "org.freedesktop.login1.Manager.";
+  EXPECT_EQ(manager.asked,
+            (QStringList{manager_name + "TerminateSession(c7)", manager_name + "PowerOff(false)",
+                         manager_name + "Reboot(false)", manager_name + "PowerOff(false)",
+                         manager_name + "Reboot(false)"}));
+  QDBusConnection::disconnectFromBus("asker");
+  QDBusConnection::disconnectFromBus("stand-in");
+}
+
+TEST(LogindSession, WithoutALoginManagerNothingHappens) {
+  LogindSession session(QDBusConnection("no such bus"));
+  session.End(SessionEnd::kPowerOff);
+  EXPECT_FALSE(QDBusConnection("no such bus").isConnected());
+}
+
+}  // namespace
+}  // namespace sonotik
