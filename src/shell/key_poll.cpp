@@ -102,7 +102,9 @@ void KeyPoll::PollAlbumPages() {
   On(kRight, [this] { MoveCoverHighlight(1); });
   On(kSelect, [this] {
     const int position = house_.pages.highlight();
-    if (position >= 0) house_.track_list.Open(house_.pages.FolderAt(position));
+    // A place without an album would open the files of the album before.
+    if (position < 0 || house_.pages.FolderAt(position).empty()) return;
+    house_.track_list.Open(house_.pages.FolderAt(position));
   });
 }
 

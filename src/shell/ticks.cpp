@@ -132,8 +132,9 @@ void Ticks::StartQueueHead() {
     // Over the cover that the start has shown, and also over a track that was gone; that is meant.
     house_.tracks.ShowCover(house_.covers.OrNotFound(cover));
   }
-  if (house_.settings.shuffle_queue_each_play) {
-    house_.queue.shuffle_queue();
+  if (house_.settings.shuffle_queue_each_play) house_.queue.shuffle_queue();
+  // A guest who looks at the queue must see what his next touch acts on.
+  if (house_.settings.shuffle_queue_each_play || house_.form1.panel(screen::kQueue).visible()) {
     house_.queue_view.Update_queue2();
   }
   house_.queue_view.show_next();

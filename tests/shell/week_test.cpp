@@ -74,6 +74,19 @@ class WeekTest : public JukeboxTest {
           controls[static_cast<size_t>(Draw(static_cast<int>(controls.size())))]->AbsolutePlace();
       at = {place.left + place.width / 2, place.top + place.height / 2};
     }
+    // What a guest does while a track starts.
+    machine.events.on_pump = [this] {
+      if (!in_pump && Draw(3) == 0) {
+        in_pump = true;
+        TouchAt({static_cast<float>(Draw(1280)), static_cast<float>(Draw(800))});
+        in_pump = false;
+      }
+    };
+    TouchAt(at);
+    machine.events.on_pump = [] {};
+  }
+
+  void TouchAt(Point at) {
     Form& window = form().form;
     if (Draw(10) == 0) return window.DoubleClickMouse(at);
     window.PressMouse(at);
@@ -169,6 +182,7 @@ class WeekTest : public JukeboxTest {
   std::mt19937 draw{20240115};
   std::vector<std::string> paths;
   int accepted = 0;
+  bool in_pump = false;
   int rubbish_files = 0;
 };
 
