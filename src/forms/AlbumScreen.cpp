@@ -44,6 +44,15 @@ AlbumScreen::AlbumScreen(Panel& screen) : panel(screen) {
   AddButton(panel, previous, {6, kGridTop, 52, 478}, "<", 24);
   AddButton(panel, next, {kWidth - 58, kGridTop, 52, 478}, ">", 24);
 
+  AddPanel(panel, left_scroll, {6, kGridTop, 52, 478});
+  AddPanel(panel, right_scroll, {kWidth - 58, kGridTop, 52, 478});
+  AddButton(left_scroll, scroll_back, {0, 0, 52, 478}, "<", 24);
+  AddButton(right_scroll, scroll_forward, {0, 0, 52, 478}, ">", 24);
+  for (Panel* scroll : {&left_scroll, &right_scroll}) {
+    scroll->SetTransparent(true);
+    scroll->SetVisible(false);
+  }
+
   for (int i = 0; i < kMostCovers; ++i) {
     CoverPosition& position = covers[static_cast<size_t>(i)];
     // Positions beyond the design wait, unseen, for a cover layout to place them.

@@ -35,6 +35,11 @@ struct AlbumScreen {
   lvButtons_H jump_to_letter;
   lvButtons_H next;
   Label page_caption;
+  // In the place of the page buttons, where a skin asks for it.
+  Panel left_scroll;
+  Panel right_scroll;
+  lvButtons_H scroll_back;
+  lvButtons_H scroll_forward;
   // The second letter panel: "A" to "Z", then "Jump To Start".
   Panel letters;
   std::array<lvButtons_H, 27> letter_buttons;

@@ -1,4 +1,4 @@
-// Five columns of stacked covers, one artist a column.
+// Five columns of stacked covers, one artist a column, and the strip of rows beside them.
 #ifndef SONOTIK_FORMS_CAROUSELSCREEN_H_
 #define SONOTIK_FORMS_CAROUSELSCREEN_H_
 
@@ -17,13 +17,18 @@ struct CarouselColumn {
 };
 
 struct CarouselScreen {
-  explicit CarouselScreen(Panel& panel);
+  CarouselScreen(Panel& panel, Panel& strip);
 
   Panel& panel;
   std::array<CarouselColumn, kCarouselColumns> columns;
   lvButtons_H up;
   lvButtons_H down;
   lvButtons_H back;
+  // Lies on this screen, and is hidden at first.
+  Panel& strip;
+  std::array<Label, 5> strip_rows;
+  lvButtons_H strip_up;
+  lvButtons_H strip_down;
 };
 
 }  // namespace sonotik

@@ -16,8 +16,18 @@ Form1::Form1()
       play_options(panels[screen::kPlayOptions]),
       queue(panels[screen::kQueue]),
       now_playing(panels[screen::kNowPlaying]),
-      carousel(panels[screen::kCarousel]),
-      decades(panels[screen::kDecades]) {
+      carousel(panels[screen::kCarousel], panels[screen::kCarouselStrip]),
+      decades(panels[screen::kDecades]),
+      history(panels[screen::kHistory]),
+      top20(panels[screen::kTop20]),
+      search(panels[screen::kSearch]),
+      search_choice(panels[screen::kSearchChoice]),
+      search_results(panels[screen::kSearchResults], panels[screen::kChartChoice]),
+      searching(form),
+      genre(panels[screen::kGenre]),
+      genre_buttons(genre_bar),
+      options(panels[screen::kOptions]),
+      pin(pin_screen) {
   form.SetPlace({0, 0, kWidth, kHeight});
   form.SetBackColor(kNight);
   form.SetTitle("Sonotik");
@@ -32,10 +42,10 @@ Form1::Form1()
     AddButton(menu, menu_buttons[i], {8 + 141 * kMenuPlaces[i], 8, 134, 48}, kMenu[i], 11);
   }
 
-  for (size_t i = 0; i < panels.size(); ++i) {
-    Panel& panel = panels[i];
-    AddPanel(form, panel, kScreen);
-    panel.SetVisible(i == screen::kAlbum);
+  // Panels 14 and 15 lie on other screens.
+  for (size_t i = 0; i <= screen::kPlayOptions; ++i) {
+    AddPanel(form, panels[i], kScreen);
+    panels[i].SetVisible(i == screen::kAlbum);
   }
   jump_to_letter.panel.BringToFront();
 
@@ -43,9 +53,10 @@ Form1::Form1()
   AddPicture(player, now_playing_cover, {12, 10, 76, 76});
   AddLabel(player, now_playing_title, {100, 10, 296, 30}, 14, kText, Align::kLeft, true);
   AddLabel(player, now_playing_artist, {100, 38, 296, 26}, 12, kAmber);
+  player.Add(now_playing_indicator, {356, 64, 40, 24});
   AddLabel(player, position, {100, 64, 70, 24}, 12, kText);
   AddLabel(player, length, {170, 64, 90, 24}, 12, kMuted);
-  AddLabel(player, paused, {270, 64, 120, 24}, 12, kCoral, Align::kLeft, true);
+  AddLabel(player, paused, {264, 64, 88, 24}, 12, kCoral, Align::kLeft, true);
   paused.SetCaption("PAUSED");
   paused.SetVisible(false);
 
@@ -71,6 +82,43 @@ Form1::Form1()
   AddPanel(form, pin_screen, {440, 150, 400, 480}, kRaised);
   AddPanel(form, attract_picture, {0, 0, kWidth, kHeight});
   for (Panel* hidden : {&genre_bar, &pin_screen, &attract_picture}) hidden->SetVisible(false);
+  searching.panel.BringToFront();
+
+  for (Control* child : panels[screen::kCarousel].children()) KeepShare(*child);
+  for (Control* child : carousel.strip.children()) KeepShare(*child);
+  KeepShare(search_results.list_panel);
+  for (lvButtons_H& button : search_results.lists) KeepShare(button);
+  KeepShare(search.suggestions.back());
+  for (ChartRow& row : decades.rows) {
+    KeepShare(row.play_now);
+    KeepShare(row.add_queue);
+  }
+  KeepShare(decades.month_picker);
+  for (Control* control : {static_cast<Control*>(&now_playing.rating_caption),
+                           static_cast<Control*>(&now_playing.rating_up),
+                           static_cast<Control*>(&now_playing.rating_down)}) {
+    KeepShare(*control);
+  }
+  KeepShare(jump_to_letter.heading);
+  KeepShare(album.tabs[static_cast<size_t>(AlbumTab::kMostPlayed)]);
+  KeepShare(random);
+  KeepShare(searching.panel);
+  KeepShare(attract_picture);
+}
+
+void Form1::KeepShare(Control& control) {
+  const Rect panel = control.parent()->place();
+  unplaced_.push_back({&control, control.place(), {0, 0, panel.width, panel.height}});
+}
+
+void Form1::FitUnplaced() {
+  for (const Unplaced& item : unplaced_) {
+    const Rect panel = item.control->parent()->place();
+    const float across = panel.width / item.panel.width;
+    const float down = panel.height / item.panel.height;
+    item.control->SetPlace({item.design.left * across, item.design.top * down,
+                            item.design.width * across, item.design.height * down});
+  }
 }
 
 void Form1::HideAllScreens() {

@@ -3,14 +3,23 @@
 #define SONOTIK_FORMS_FORM1_H_
 
 #include <array>
+#include <vector>
 
 #include "forms/AlbumScreen.h"
 #include "forms/CarouselScreen.h"
 #include "forms/DecadesScreen.h"
+#include "forms/GenreScreen.h"
+#include "forms/HistoryScreen.h"
 #include "forms/NowPlayingScreen.h"
+#include "forms/OptionsScreen.h"
+#include "forms/PinScreen.h"
 #include "forms/PlayOptionsScreen.h"
 #include "forms/QueueScreen.h"
+#include "forms/SearchResultsScreen.h"
+#include "forms/SearchScreen.h"
+#include "forms/Top20Screen.h"
 #include "forms/TrackListScreen.h"
+#include "widgets/ucAniGIF.h"
 
 namespace sonotik {
 
@@ -70,10 +79,10 @@ struct Form1 {
   Label length;
   Label paused;
   PictureBox now_playing_cover;
+  ucAniGIF now_playing_indicator;
   Label credits;
   Label play_caption;  // beside the credit display: "Play NOW"
   Label clock;
-  Label version;
   // Further panels beside the sixteen.
   Panel pin_screen;
   Panel attract_picture;
@@ -87,12 +96,34 @@ struct Form1 {
   NowPlayingScreen now_playing;
   CarouselScreen carousel;
   DecadesScreen decades;
+  HistoryScreen history;
+  Top20Screen top20;
+  SearchScreen search;
+  SearchChoiceScreen search_choice;
+  SearchResultsScreen search_results;
+  SearchingPanel searching;
+  GenreScreen genre;
+  GenreBar genre_buttons;
+  OptionsScreen options;
+  PinScreen pin;
 
   Panel& panel(size_t index) { return panels[index]; }
   // Hides panels 0 to 13 and no others.
   void HideAllScreens();
   // Shows one panel in front.
   void ShowScreen(size_t index);
+  // What no file of a skin places keeps its share of its panel, whatever size a skin gives that.
+  void FitUnplaced();
+
+ private:
+  struct Unplaced {
+    Control* control;
+    Rect design;
+    Rect panel;  // its size in the design
+  };
+  void KeepShare(Control& control);
+
+  std::vector<Unplaced> unplaced_;
 };
 
 }  // namespace sonotik

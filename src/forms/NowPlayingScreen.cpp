@@ -12,6 +12,15 @@ NowPlayingScreen::NowPlayingScreen(Panel& screen) : panel(screen) {
   AddLabel(panel, artist, {836, 108, 420, 44}, 18, kAmber);
   AddLabel(panel, length, {836, 156, 420, 36}, 15, kMuted);
 
+  AddLabel(panel, rating_caption, {836, 212, 160, 40}, 13, kMuted);
+  rating_caption.SetCaption("Current Rating:");
+  panel.Add(rating, {836, 256, 220, 88});
+  AddButton(panel, rating_up, {1076, 256, 84, 88}, "+", 20);
+  AddButton(panel, rating_down, {1172, 256, 84, 88}, "-", 20);
+  for (Control* item : {static_cast<Control*>(&rating), static_cast<Control*>(&rating_caption),
+                        static_cast<Control*>(&rating_up), static_cast<Control*>(&rating_down)}) {
+    item->SetVisible(false);
+  }
   AddPanel(panel, next_song, {836, 400, 420, 160}, kRaised);
   AddLabel(next_song, next_song_caption, {160, 14, 244, 30}, 13, kMuted);
   next_song_caption.SetCaption("Next Song:");

@@ -5,6 +5,7 @@
 #include <array>
 
 #include "forms/design.h"
+#include "widgets/ucAniGIF.h"
 
 namespace sonotik {
 
@@ -19,6 +20,11 @@ struct NowPlayingScreen {
   Label length;
   VideoBox video;
   lvButtons_H full_screen;
+  // Shown with "Show Ratings Thumbs".
+  ucAniGIF rating;
+  Label rating_caption;  // "Current Rating:"
+  lvButtons_H rating_up;
+  lvButtons_H rating_down;
   // The "Next Song:" panel.
   Panel next_song;
   Label next_song_caption;

@@ -18,6 +18,11 @@ inline constexpr float kPlayerHeight = 96;
 // Where every screen stands, between the menu bar and the player panel.
 inline constexpr Rect kScreen{0, kMenuHeight, kWidth, kHeight - kMenuHeight - kPlayerHeight};
 
+// The column of buttons at the right edge of a screen, and the place of BACK in it.
+inline constexpr float kSideLeft = 1000;
+inline constexpr float kSideWidth = 256;
+inline constexpr Rect kBackPlace{kSideLeft, 562, kSideWidth, 62};
+
 inline constexpr Color kNight = Rgb(16, 18, 32);
 inline constexpr Color kPanel = Rgb(26, 29, 48);
 inline constexpr Color kRaised = Rgb(38, 43, 68);

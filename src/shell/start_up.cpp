@@ -127,7 +127,7 @@ void StartUp::SetUpScreens() {
   const std::string forum = house_.app_path + "\\New forum.bmp";
   if (FileExists(forum)) house_.form2.forum_picture.SetPicture(forum);
   form.pin_screen.SetVisible(false);
-  form.version.SetCaption(kVersionCaption);
+  form.options.version.SetCaption(kVersionCaption);
 }
 
 void StartUp::Load(const char* name, const char* milestone, const std::function<void()>& load) {

@@ -1,5 +1,6 @@
 #include "widgets/controls.h"
 
+#include <algorithm>
 #include <cctype>
 
 namespace sonotik {
@@ -37,6 +38,18 @@ void Label::Paint(Canvas& canvas) const {
 void PictureBox::Paint(Canvas& canvas) const {
   if (picture_.empty()) return;
   canvas.DrawPicture(picture_, {0, 0, place().width, place().height}, fit_);
+}
+
+void ProgressBar::SetColors(Color back, Color fill) {
+  Change(back_, back);
+  Change(fill_, fill);
+}
+
+void ProgressBar::Paint(Canvas& canvas) const {
+  canvas.FillRect({0, 0, place().width, place().height}, back_);
+  if (max_ <= 0) return;
+  const float share = std::clamp(static_cast<float>(value_) / static_cast<float>(max_), 0.0F, 1.0F);
+  canvas.FillRect({0, 0, place().width * share, place().height}, fill_);
 }
 
 void VideoBox::SetPixels(const PixelSurface* pixels) { Change(pixels_, pixels); }

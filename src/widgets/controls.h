@@ -1,4 +1,4 @@
-// The plain controls: label, picture, video box, list.
+// The plain controls: label, picture, video box, progress bar.
 #ifndef SONOTIK_WIDGETS_CONTROLS_H_
 #define SONOTIK_WIDGETS_CONTROLS_H_
 
@@ -17,6 +17,7 @@ class Label : public Control {
  public:
   const std::string& caption() const { return caption_; }
   void SetCaption(std::string caption) { Change(caption_, std::move(caption)); }
+  Align align() const { return style_.align; }
   Color fore_color() const { return style_.color; }
   void SetForeColor(Color color) { Change(style_.color, color); }
   const Font& font() const { return style_.font; }
@@ -29,7 +30,7 @@ class Label : public Control {
   bool highlighted() const { return highlighted_; }
   void SetHighlighted(bool highlighted) { Change(highlighted_, highlighted); }
   // A plate behind the text of a row that isn't highlighted.
-  void SetPlate(Color color) { Change(plate_, std::optional<Color>(color)); }
+  void SetPlate(std::optional<Color> color) { Change(plate_, color); }
 
   void Paint(Canvas& canvas) const override;
 
@@ -53,6 +54,24 @@ class PictureBox : public Control {
  private:
   std::string picture_;
   PictureFit fit_ = PictureFit::kCover;
+};
+
+// How far a work has come, from 0 to its maximum.
+class ProgressBar : public Control {
+ public:
+  int max() const { return max_; }
+  void SetMax(int max) { Change(max_, max); }
+  int value() const { return value_; }
+  void SetValue(int value) { Change(value_, value); }
+  void SetColors(Color back, Color fill);
+
+  void Paint(Canvas& canvas) const override;
+
+ private:
+  int max_ = 100;
+  int value_ = 0;
+  Color back_ = kBlack;
+  Color fill_ = kWhite;
 };
 
 // Where a video runs: black, and on it whatever the player has rendered last.
