@@ -83,6 +83,8 @@ struct Form1 {
   Label credits;
   Label play_caption;  // beside the credit display: "Play NOW"
   Label clock;
+  // Of the skin: below 1 the genres have a screen of their own, else a bar in the menu's place.
+  int genre_style = 0;
   // Further panels beside the sixteen.
   Panel pin_screen;
   Panel attract_picture;

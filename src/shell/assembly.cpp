@@ -20,6 +20,7 @@ Assembly::Assembly(std::string path, Machine& ports)
       credits(app_path, settings, lists, form1),
       key_map(app_path),
       permissions(app_path, ports.messages),
+      pin(app_path, ports.clock, settings, permissions, form1),
       network(app_path),
       tags(fields, [this] { return settings.use_filename_if_no_tag; }),
       covers(app_path, settings),

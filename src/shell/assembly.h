@@ -8,6 +8,7 @@
 #include "access/credits.h"
 #include "access/key_map.h"
 #include "access/permissions.h"
+#include "access/pin_entry.h"
 #include "catalogue/album_pages.h"
 #include "catalogue/carousel.h"
 #include "catalogue/history.h"
@@ -73,6 +74,7 @@ struct Assembly {
   Credits credits;
   KeyMap key_map;
   Permissions permissions;
+  PinEntry pin;
   Network network;
 
   TagFields fields;

@@ -6,6 +6,7 @@
 
 #include "shell/assembly.h"
 #include "shell/key_poll.h"
+#include "shell/menu.h"
 #include "shell/navigation.h"
 #include "shell/settings_effects.h"
 #include "shell/shutdown.h"
@@ -22,11 +23,12 @@ class Jukebox {
         effects(house),
         start_up(house, effects),
         ticks(house),
-        navigation(house),
-        keys(house, navigation),
+        menu(house),
+        navigation(house, menu),
+        keys(house, menu, navigation),
         shutdown(house) {
     ticks.hooks.PollKeys = [this] { keys.PollKeys(); };
-    keys.hooks.power_down = [this] { shutdown.power_down(); };
+    menu.hooks.power_down = [this] { shutdown.power_down(); };
     ticks.hooks.leave_program = [this] { shutdown.TimedExit(); };
   }
 
@@ -43,6 +45,7 @@ class Jukebox {
   SettingsEffects effects;
   StartUp start_up;
   Ticks ticks;
+  Menu menu;
   Navigation navigation;
   KeyPoll keys;
   Shutdown shutdown;

@@ -67,8 +67,7 @@ void KeyPoll::PollKeys() {
 void KeyPoll::PollEscapeOnly() {
   if (!house_.machine.keys.IsDown(kEscape)) return;
   house_.state.idle_seconds = 0;
-  house_.form1.HideAllScreens();
-  hooks.EnterOptions();
+  menu_.EnterOptions();
   // Not Escape itself but the key 48 above "Browse Back" is waited for; that stays.
   WaitForRelease(house_.key_map.code(kBrowseBack) + 48);
 }
@@ -92,7 +91,7 @@ void KeyPoll::TakeTrack() {
   // The offset goes first, so a scrolled list yields the file of the unscrolled row; that is meant.
   house_.track_list.SetPageTop(0);
   const std::string path = house_.track_list.PathOfRow(row);
-  navigation_.Back();
+  menu_.Back();
   if (!path.empty()) navigation_.Choose(path, PlayWay::kAddToQueue);
 }
 
@@ -127,31 +126,29 @@ void KeyPoll::PollFromAnywhere() {
   // "Increase Vol" lowers and "Decrease Vol" raises; that stays.
   On(kIncreaseVolume, [this] { StepVolume(-kVolumeStep); });
   On(kDecreaseVolume, [this] { StepVolume(kVolumeStep); });
-  On(kAlbumView, [this] { Show(screen::kAlbum); });
+  On(kAlbumView, [this] { menu_.Show(screen::kAlbum); });
   On(kHistory, [this] {
-    hooks.history_show2();
-    Show(screen::kHistory);
+    menu_.hooks.history_show2();
+    menu_.Show(screen::kHistory);
   });
   On(kTop20, [this] {
-    hooks.Top20_show3();
-    Show(screen::kTop20);
+    menu_.HideTop20Commands();
+    menu_.hooks.Top20_show3();
+    menu_.Show(screen::kTop20);
   });
   On(kSearch, [this] {
-    hooks.reset_search();
-    Show(screen::kSearch);
+    menu_.hooks.reset_search();
+    menu_.Show(screen::kSearch);
   });
-  On(kShowQueue, [this] { Show(screen::kQueue); });
-  On(kOptions, [this] {
-    house_.form1.HideAllScreens();
-    hooks.EnterOptions();
-  });
-  On(kDecades, [this] { Show(screen::kDecades); });
+  On(kShowQueue, [this] { menu_.Show(screen::kQueue); });
+  On(kOptions, [this] { menu_.EnterOptions(); });
+  On(kDecades, [this] { menu_.Show(screen::kDecades); });
   On(kCarouselView, [this] {
     house_.carousel.Carousel_show();
-    Show(screen::kCarousel);
+    menu_.Show(screen::kCarousel);
   });
   On(kRandomOnOff, [this] { ToggleRandom(); });
-  On(kPowerOff, [this] { hooks.power_down(); });
+  On(kPowerOff, [this] { menu_.hooks.power_down(); });
 }
 
 void KeyPoll::StepPage(int direction) {
@@ -177,11 +174,6 @@ void KeyPoll::ToggleRandom() {
   on = !on;
   house_.settings.enable_random_play = on;
   house_.form1.random.SetCaption(on ? "Random ON" : "Random OFF");
-}
-
-void KeyPoll::Show(size_t index) {
-  house_.form1.HideAllScreens();
-  house_.form1.ShowScreen(index);
 }
 
 }  // namespace sonotik

@@ -2,27 +2,15 @@
 #ifndef SONOTIK_SHELL_KEY_POLL_H_
 #define SONOTIK_SHELL_KEY_POLL_H_
 
-#include <functional>
-
 #include "shell/assembly.h"
 #include "shell/navigation.h"
 
 namespace sonotik {
 
-// What keys open that other rooms fill; nothing until they do.
-struct KeyHooks {
-  std::function<void()> history_show2 = [] {};
-  std::function<void()> Top20_show3 = [] {};
-  std::function<void()> reset_search = [] {};
-  std::function<void()> EnterOptions = [] {};
-  std::function<void()> power_down = [] {};
-};
-
 class KeyPoll {
  public:
-  KeyPoll(Assembly& house, Navigation& navigation) : house_(house), navigation_(navigation) {}
-
-  KeyHooks hooks;
+  KeyPoll(Assembly& house, Menu& menu, Navigation& navigation)
+      : house_(house), menu_(menu), navigation_(navigation) {}
 
   // One look at all mapped keys. After each action it waits, letting events run, until that key is
   // up again: one press is one action, and a key that is held never stops the music.
@@ -45,9 +33,9 @@ class KeyPoll {
   void StepPage(int direction);
   void StepVolume(int by);
   void ToggleRandom();
-  void Show(size_t index);
 
   Assembly& house_;
+  Menu& menu_;
   Navigation& navigation_;
 };
 

@@ -15,49 +15,14 @@ void Navigation::OnClick(Control& control, const char* name, Handler handler) {
   control.on_click = house_.boundary.Guarded(name, handler);
 }
 
-Navigation::Navigation(Assembly& house) : house_(house) {
+Navigation::Navigation(Assembly& house, Menu& menu) : house_(house), menu_(menu) {
   house_.form1.form.on_input = [this] { house_.state.idle_seconds = 0; };
-  WireMenu();
   WireAlbumScreen();
   WireTrackList();
   WirePlayOptions();
   WireQueue();
   WireNowPlaying();
   WirePlayer();
-}
-
-void Navigation::WireMenu() {
-  auto& buttons = house_.form1.menu_buttons;
-  for (size_t i = 0; i < buttons.size(); ++i) {
-    OnClick(buttons[i], "menu", [this, i] { OpenMenu(static_cast<MenuButton>(i)); });
-  }
-  for (lvButtons_H* back :
-       {&house_.form1.track_list.back, &house_.form1.queue.back, &house_.form1.carousel.back}) {
-    OnClick(*back, "BACK", [this] { Back(); });
-  }
-}
-
-void Navigation::OpenMenu(MenuButton button) {
-  Form1& form = house_.form1;
-  house_.track_list.SelectRow(-1);
-  form.pin_screen.SetVisible(false);
-  form.HideAllScreens();
-  form.ShowScreen(static_cast<size_t>(button));
-  if (button == MenuButton::kShowQueue) {
-    house_.queue_view.Reset();
-    house_.queue_view.HideRowCommands();
-    form.queue.commands[static_cast<size_t>(QueueCommand::kBurnCd)].SetVisible(
-        house_.settings.burn_cd);
-    house_.queue_view.Update_queue2();
-  } else if (button == MenuButton::kCarousel) {
-    house_.carousel.Carousel_show();
-  }
-}
-
-void Navigation::Back() {
-  house_.form1.HideAllScreens();
-  house_.form1.ShowScreen(screen::kAlbum);
-  house_.track_list.SelectRow(-1);
 }
 
 void Navigation::WireAlbumScreen() {
@@ -74,8 +39,12 @@ void Navigation::WireAlbumScreen() {
   for (size_t i = 0; i < screen.tabs.size(); ++i) {
     OnClick(screen.tabs[i], "tab", [&pages, i] { pages.PressTab(static_cast<AlbumTab>(i)); });
   }
-  OnClick(screen.previous, "previous", [&pages] { pages.StepPage(-1); });
-  OnClick(screen.next, "next", [&pages] { pages.StepPage(1); });
+  for (lvButtons_H* button : {&screen.previous, &screen.scroll_back}) {
+    OnClick(*button, "previous", [&pages] { pages.StepPage(-1); });
+  }
+  for (lvButtons_H* button : {&screen.next, &screen.scroll_forward}) {
+    OnClick(*button, "next", [&pages] { pages.StepPage(1); });
+  }
   JumpToLetterScreen& jump = house_.form1.jump_to_letter;
   OnClick(screen.jump_to_letter, "Jump To Letter", [this, &jump] {
     house_.pages.SetPageValid(false);
@@ -172,7 +141,7 @@ void Navigation::PressTrackRow(int row) {
   // An M4A or WMA still carries the genre of the file before; that is meant.
   if (UpperCase(house_.fields.txtGenre) == "ADULT") {
     house_.form1.panel(screen::kPlayOptions).SetVisible(false);
-    ask_for_pin(screen::kPlayOptions);
+    house_.pin.Ask(screen::kPlayOptions);
   }
 }
 
@@ -217,7 +186,7 @@ void Navigation::AddEntireAlbum() {
 }
 
 void Navigation::AfterAdding(size_t calling_screen) {
-  if (house_.settings.auto_back_on_selection) return Back();
+  if (house_.settings.auto_back_on_selection) return menu_.Back();
   house_.form1.ShowScreen(calling_screen);
 }
 
@@ -280,10 +249,7 @@ void Navigation::PlayQueueEntry() {
 void Navigation::WireNowPlaying() {
   Form1& form = house_.form1;
   for (Label* label : {&form.now_playing_artist, &form.now_playing_title}) {
-    OnClick(*label, "now playing", [this] {
-      house_.form1.HideAllScreens();
-      house_.form1.ShowScreen(screen::kNowPlaying);
-    });
+    OnClick(*label, "now playing", [this] { menu_.Show(screen::kNowPlaying); });
   }
   OnClick(form.now_playing_cover, "now-playing cover", [this] {
     if (house_.playback.current_track_folder.empty()) return;
@@ -291,7 +257,7 @@ void Navigation::WireNowPlaying() {
     house_.track_list.Open(house_.playback.current_track_folder);
   });
   for (Label* label : {&form.now_playing.artist, &form.now_playing.title}) {
-    OnClick(*label, "now-playing artist", [this] { Back(); });
+    OnClick(*label, "now-playing artist", [this] { menu_.Back(); });
   }
   OnClick(form.now_playing.full_screen, "FULLSCREEN", [this] { ToggleFullScreen(); });
 }

@@ -2,23 +2,14 @@
 #ifndef SONOTIK_SHELL_NAVIGATION_H_
 #define SONOTIK_SHELL_NAVIGATION_H_
 
-#include <functional>
-
-#include "shell/assembly.h"
+#include "shell/menu.h"
 
 namespace sonotik {
 
 class Navigation {
  public:
-  explicit Navigation(Assembly& house);
+  Navigation(Assembly& house, Menu& menu);
 
-  // Asked when a row for adults is chosen: the PIN, and then this screen. Until there is a PIN
-  // screen the play options of such a track don't open.
-  std::function<void(size_t target)> ask_for_pin = [](size_t) {};
-
-  void OpenMenu(MenuButton button);
-  // "BACK" always means the album pages.
-  void Back();
   void OpenAlbum(const std::string& folder);
   void PressTrackRow(int row);
   void DoubleClickTrackRow(int row);
@@ -30,7 +21,6 @@ class Navigation {
   void ToggleFullScreen();
 
  private:
-  void WireMenu();
   void WireAlbumScreen();
   void WireTrackList();
   void WirePlayOptions();
@@ -47,6 +37,7 @@ class Navigation {
   void AfterAdding(size_t calling_screen);
 
   Assembly& house_;
+  Menu& menu_;
   bool choosing_ = false;
   // The video box's own place while it fills the screen.
   Rect video_place_;

@@ -101,7 +101,7 @@ TEST_F(QueueTest, APartOfALongerPathCountsAsADuplicate) {
 TEST_F(QueueTest, TheCommandsMoveAndRemoveTheChosenEntry) {
   for (const char* name : {"1.wav", "2.wav", "3.wav"}) WriteTrack("Q", name, "Ada", name);
   Start();
-  jukebox->navigation.OpenMenu(MenuButton::kShowQueue);
+  jukebox->menu.Open(MenuButton::kShowQueue);
   for (const char* name : {"1.wav", "2.wav", "3.wav"}) {
     house().selection.Choose(AlbumPath("Q") + name, PlayWay::kAddToQueue);
   }

@@ -45,7 +45,7 @@ class WeekTest : public JukeboxTest {
     Start();
     ASSERT_EQ(result, StartUpResult::kRunning);
     // Nobody switches it off before its evening ends.
-    jukebox->keys.hooks.power_down = [] {};
+    jukebox->menu.hooks.power_down = [] {};
     house().selection.announce = [this](bool) { ++accepted; };
     house().tracks.hooks.send_to_sign = [this] { ++accepted; };
   }

@@ -1,0 +1,155 @@
+// The ways between the screens.
+#include <gtest/gtest.h>
+
+#include "support/jukebox_test.h"
+
+namespace sonotik {
+namespace {
+
+class MenuTest : public JukeboxTest {
+ protected:
+  // The screens 0 to 13 that show.
+  std::vector<size_t> Shown() {
+    std::vector<size_t> shown;
+    for (size_t i = 0; i <= screen::kPlayOptions; ++i) {
+      if (form().panel(i).visible()) shown.push_back(i);
+    }
+    return shown;
+  }
+  void EnterPin(const std::string& digits) {
+    for (const char digit : digits) Click(form().pin.keys[static_cast<size_t>(digit - '0')]);
+    Click(form().pin.keys[0]);
+  }
+  using Screens = std::vector<size_t>;
+};
+
+TEST_F(MenuTest, EachButtonShowsItsScreenAloneAndBackMeansTheAlbums) {
+  Start();
+  std::string calls;
+  ScreenHooks& hooks = jukebox->menu.hooks;
+  hooks.history_first_page = [&] { calls += "first history,"; };
+  hooks.history_show2 = [&] { calls += "history,"; };
+  hooks.top20_first_page = [&] { calls += "first chart,"; };
+  hooks.Top20_show3 = [&] { calls += "chart,"; };
+  hooks.show_genres = [&] { calls += "genres,"; };
+  const struct {
+    MenuButton button;
+    size_t shown;
+    const char* calls;
+    lvButtons_H* back;
+  } cases[] = {
+      {MenuButton::kHistory, screen::kHistory, "first history,history,", &form().history.back},
+      {MenuButton::kTop20, screen::kTop20, "first chart,chart,", &form().top20.back},
+      {MenuButton::kSearch, screen::kSearchChoice, "", nullptr},
+      {MenuButton::kShowQueue, screen::kQueue, "", &form().queue.back},
+      {MenuButton::kOptions, screen::kOptions, "", &form().options.back},
+      {MenuButton::kDecades, screen::kDecades, "", &form().decades.back},
+      {MenuButton::kCarousel, screen::kCarousel, "", &form().carousel.back},
+      {MenuButton::kGenres, screen::kGenre, "genres,", &form().genre.back},
+      {MenuButton::kAlbumView, screen::kAlbum, "", nullptr}};
+  form().panel(screen::kChartChoice).SetVisible(true);
+  for (const auto& c : cases) {
+    calls.clear();
+    form().pin_screen.SetVisible(true);
+    jukebox->menu.Open(c.button);
+    EXPECT_EQ(Shown(), Screens{c.shown});
+    EXPECT_EQ(calls, c.calls);
+    EXPECT_FALSE(form().pin_screen.visible());
+    if (c.back == nullptr) continue;
+    Click(*c.back);
+    EXPECT_EQ(Shown(), Screens{screen::kAlbum});
+  }
+  EXPECT_TRUE(form().panel(screen::kChartChoice).visible());
+}
+
+TEST_F(MenuTest, ThePickersOwnBackTakesOnlyThePickerAway) {
+  Start();
+  form().decades.year_picker.SetVisible(true);
+  form().decades.month_picker.SetVisible(true);
+  jukebox->menu.Open(MenuButton::kDecades);
+  EXPECT_FALSE(form().decades.month_picker.visible());
+  Click(form().decades.year_back);
+  EXPECT_FALSE(form().decades.year_picker.visible());
+  EXPECT_EQ(Shown(), Screens{screen::kDecades});
+}
+
+TEST_F(MenuTest, AGenreBarTakesTheMenusPlaceWhereTheSkinWantsIt) {
+  Start();
+  form().genre_style = 1;
+  jukebox->menu.Open(MenuButton::kGenres);
+  EXPECT_EQ(Shown(), Screens{screen::kAlbum});
+  EXPECT_TRUE(form().genre_bar.visible());
+  EXPECT_FALSE(form().menu.visible());
+}
+
+TEST_F(MenuTest, ThePinDecidesWhoSeesWhichSections) {
+  settings.prompt_for_pin = true;
+  settings.admin_pin = "12";
+  settings.delegate_pin = "12";
+  WriteDefaults();
+  folder.Write("permissions.ini",
+               " 0 \r\n 1 \r\n 0 \r\n 0 \r\n 0 \r\n 0 \r\n 0 \r\n 1 \r\n 0 \r\n 0 \r\n");
+  Start();
+  const auto open = [this](const std::string& pin) {
+    jukebox->menu.Open(MenuButton::kOptions);
+    EXPECT_TRUE(Shown().empty());
+    EnterPin(pin);
+    EXPECT_FALSE(form().pin_screen.visible());
+  };
+  open("99");
+  EXPECT_EQ(Shown(), Screens{screen::kAlbum});
+  // One PIN for both is the Admin's. It leaves the last section as it stood.
+  form().options.sections[7].SetVisible(false);
+  open("12");
+  EXPECT_EQ(Shown(), Screens{screen::kOptions});
+  EXPECT_TRUE(form().options.sections[0].visible());
+  EXPECT_FALSE(form().options.sections[7].visible());
+  EXPECT_TRUE(form().options.power_off.visible());
+  house().settings.admin_pin = "3";
+  open("12");
+  for (size_t i = 0; i < kOptionSections; ++i) {
+    EXPECT_EQ(form().options.sections[i].visible(), i == 1 || i == 7) << i;
+  }
+  EXPECT_FALSE(form().options.power_off.visible());
+  house().settings.delegate_pin = "";
+  open("");
+  EXPECT_EQ(Shown(), Screens{screen::kOptions});
+  const std::string when = "01/15/2024 12:00:00";
+  EXPECT_EQ(folder.Read("password.txt"), when + " Incorrect pin entered... 99\r\n" + when +
+                                             " Correct ADMIN pin entered... \r\n" + when +
+                                             " Correct DELEGATE pin entered... \r\n" + when +
+                                             " Correct DELEGATE pin entered... \r\n");
+}
+
+TEST_F(MenuTest, ATrackForAdultsWantsThePinAndThenItsPlayOptions) {
+  settings.admin_pin = "5";
+  WriteDefaults();
+  folder.Write("music/Night/1.wav", "x");
+  std::string sidecar = Sidecar("Ada", "Dawn", "Night", "0:30");
+  sidecar.replace(sidecar.find("<genre>"), 7, "<genre>Adult");
+  folder.Write("music/Night/1.wav.tag", sidecar);
+  WriteAlbums({{"Night", "Ada"}});
+  Start();
+  Click(form().album.covers[0].cover);
+  Click(form().track_list.rows[0].title);
+  EXPECT_FALSE(form().panel(screen::kPlayOptions).visible());
+  EnterPin("5");
+  EXPECT_EQ(Shown(), Screens{screen::kPlayOptions});
+  EXPECT_EQ(form().play_options.title.caption(), "Dawn");
+}
+
+TEST_F(MenuTest, ATouchEndsTheAttractPicture) {
+  Start();
+  int ended = 0;
+  jukebox->menu.hooks.end_attract = [&] { ++ended; };
+  form().ShowScreen(screen::kNowPlaying);
+  form().attract_picture.SetVisible(true);
+  form().attract_picture.BringToFront();
+  Click(form().attract_picture);
+  EXPECT_FALSE(form().attract_picture.visible());
+  EXPECT_EQ(Shown(), Screens{screen::kAlbum});
+  EXPECT_EQ(ended, 1);
+}
+
+}  // namespace
+}  // namespace sonotik
