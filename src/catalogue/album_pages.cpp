@@ -12,19 +12,19 @@ namespace {
 
 // An album is new for a week.
 constexpr long kNewDays = 7;
-constexpr int kRandomStyle = 14;
 
 }  // namespace
 
 AlbumPages::AlbumPages(Machine& machine, const Settings& settings, Catalogue& catalogue,
                        CatalogueCursor& cursor, const CoverLayout& layout,
-                       const CoverFinder& covers, Form1& form)
+                       const CoverFinder& covers, CoverAnimation& animation, Form1& form)
     : machine_(machine),
       settings_(settings),
       catalogue_(catalogue),
       cursor_(cursor),
       layout_(layout),
       covers_(covers),
+      animation_(animation),
       form1_(form),
       screen_(form.album) {}
 
@@ -57,11 +57,8 @@ void AlbumPages::PaintPage(bool at_random) {
   }
   for (; slot <= covers; ++slot) HideCover(slot);
   if (settings_.use_animated_covers) {
-    // The last style of the list stands for any of the others.
-    const int style = settings_.animation_style == kRandomStyle
-                          ? static_cast<int>(machine_.random.Below(kRandomStyle))
-                          : settings_.animation_style;
-    animate(form1_.panel(screen::kAlbum), 1, style, settings_.cover_animation_speed, 33);
+    animation_.Animate(form1_.panel(screen::kAlbum), 1, animation_.Drawn(settings_.animation_style),
+                       settings_.cover_animation_speed, kCoverAnimationSteps);
   }
 }
 
@@ -141,7 +138,9 @@ void AlbumPages::ShowSource(CatalogueSource source) {
   cursor_.source = source;
   read_albums3();
   // 110 is no style: the page just shows.
-  if (settings_.use_animated_covers) animate(form1_.panel(screen::kAlbum), 1, 110, 0, 33);
+  if (settings_.use_animated_covers) {
+    animation_.Animate(form1_.panel(screen::kAlbum), 1, 110, 0, kCoverAnimationSteps);
+  }
 }
 
 void AlbumPages::PressTab(AlbumTab tab) {

@@ -10,12 +10,10 @@
 #include "catalogue/cover_picture.h"
 #include "forms/Form1.h"
 #include "platform/machine.h"
+#include "skins/cover_animation.h"
 #include "skins/cover_layout.h"
 
 namespace sonotik {
-
-// Reveals a panel by an animation; a later part of the house draws it.
-using Animate = std::function<void(Panel& panel, int show, int style, int delay_ms, int steps)>;
 
 // What a slot of the page holds. Slot 1 is the first cover; slot 0 is not used.
 struct CoverSlot {
@@ -29,7 +27,7 @@ class AlbumPages {
  public:
   AlbumPages(Machine& machine, const Settings& settings, Catalogue& catalogue,
              CatalogueCursor& cursor, const CoverLayout& layout, const CoverFinder& covers,
-             Form1& form);
+             CoverAnimation& animation, Form1& form);
 
   // Paints the page at the source's position. A position outside the file paints nothing and leaves
   // page_valid() as it was.
@@ -58,8 +56,6 @@ class AlbumPages {
   const std::string& FolderAt(int position) const;
   const std::array<CoverSlot, kMostCovers + 1>& slots() const { return slots_; }
 
-  Animate animate = [](Panel&, int, int, int, int) {};
-
  private:
   void PaintPage(bool at_random);
   void FillSlot(int slot, const AlbumRecord& record, long number);
@@ -73,6 +69,7 @@ class AlbumPages {
   CatalogueCursor& cursor_;
   const CoverLayout& layout_;
   const CoverFinder& covers_;
+  CoverAnimation& animation_;
   Form1& form1_;
   AlbumScreen& screen_;
   // One more than there are slots, so that the slot behind the last can be cleared.

@@ -3,6 +3,7 @@
 #include "catalogue/records.h"
 #include "files/files.h"
 #include "files/record_file.h"
+#include "text/text.h"
 
 namespace sonotik {
 
@@ -21,9 +22,16 @@ void FactTable::load_facts() {
     for (size_t i = 0; i < row.facts.size(); ++i) {
       row.facts[i] = record.Trimmed(SongFactRecord::kFacts[i]);
     }
+    rows_of_[UpperCase(row.artist)].push_back(rows_.size());
     rows_.push_back(std::move(row));
   }
   log_.LogMilestone("Songfacts Loaded");
+}
+
+const std::vector<size_t>& FactTable::RowsOf(const std::string& artist) const {
+  static const std::vector<size_t> kNone;
+  const auto found = rows_of_.find(UpperCase(artist));
+  return found == rows_of_.end() ? kNone : found->second;
 }
 
 }  // namespace sonotik

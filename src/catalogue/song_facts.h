@@ -4,6 +4,7 @@
 
 #include <array>
 #include <string>
+#include <unordered_map>
 #include <vector>
 
 #include "files/milestone_log.h"
@@ -24,11 +25,14 @@ class FactTable {
   // songfacts.dat into the table, rows in file order. Tells debug.log whether the file was there.
   void load_facts();
   const std::vector<SongFacts>& rows() const { return rows_; }
+  // The rows of an artist, whatever the case, in file order.
+  const std::vector<size_t>& RowsOf(const std::string& artist) const;
 
  private:
   const std::string& app_path_;
   const MilestoneLog& log_;
   std::vector<SongFacts> rows_;
+  std::unordered_map<std::string, std::vector<size_t>> rows_of_;  // by the artist in upper case
 };
 
 }  // namespace sonotik

@@ -8,13 +8,15 @@ namespace sonotik {
 
 TrackList::TrackList(const std::string& app_path, const Settings& settings, Catalogue& catalogue,
                      CatalogueCursor& cursor, const CoverLayout& layout, const CoverFinder& covers,
-                     const AlbumPages& pages, TagReader& tags, const TagFields& fields, Form1& form)
+                     const AlbumPages& pages, CoverAnimation& animation, TagReader& tags,
+                     const TagFields& fields, Form1& form)
     : settings_(settings),
       catalogue_(catalogue),
       cursor_(cursor),
       layout_(layout),
       covers_(covers),
       pages_(pages),
+      animation_(animation),
       tags_(tags),
       fields_(fields),
       form1_(form),
@@ -30,6 +32,11 @@ void TrackList::Open(const std::string& album_path) {
   // The files as they are now; turning pages of one visit keeps to one list.
   album_files_.Refresh();
   track_List2(album_path);
+  // Last: it lets events run, and one of them may open another album.
+  if (settings_.use_animated_covers) {
+    animation_.Animate(screen_.cover, 1, animation_.Drawn(settings_.animation_style),
+                       settings_.cover_animation_speed, kCoverAnimationSteps);
+  }
 }
 
 void TrackList::show_album(const std::string& path) {

@@ -16,7 +16,8 @@ class TrackList {
  public:
   TrackList(const std::string& app_path, const Settings& settings, Catalogue& catalogue,
             CatalogueCursor& cursor, const CoverLayout& layout, const CoverFinder& covers,
-            const AlbumPages& pages, TagReader& tags, const TagFields& fields, Form1& form);
+            const AlbumPages& pages, CoverAnimation& animation, TagReader& tags,
+            const TagFields& fields, Form1& form);
 
   // Fills the screen for a folder, from the first row's track on. A folder that is gone keeps the
   // files of the album before.
@@ -60,6 +61,7 @@ class TrackList {
   const CoverLayout& layout_;
   const CoverFinder& covers_;
   const AlbumPages& pages_;
+  CoverAnimation& animation_;
   TagReader& tags_;
   const TagFields& fields_;
   Form1& form1_;

@@ -129,6 +129,12 @@ void DeleteFileIfThere(std::string_view path) {
   }
 }
 
+void MakeFolder(std::string_view path) {
+  std::error_code error;
+  fs::create_directories(NativePath(path), error);
+  if (error) throw RuntimeFailure("can't make the folder " + std::string(path));
+}
+
 void ChangeWorkingFolder(std::string_view path) {
   if (::chdir(NativePath(path).c_str()) != 0) FailWithErrno("cannot change to", path);
 }

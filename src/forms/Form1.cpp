@@ -80,7 +80,12 @@ Form1::Form1()
 
   AddPanel(form, genre_bar, {0, 0, kWidth, kMenuHeight}, kPanel);
   AddPanel(form, pin_screen, {440, 150, 400, 480}, kRaised);
+  AddLabel(form, song_fact, {240, kPlayerTop - 112, 800, 96}, 16, kText, Align::kCenter, true);
+  song_fact.SetPlate(kRaised);
+  song_fact.SetWrap(true);
+  song_fact.SetVisible(false);
   AddPanel(form, attract_picture, {0, 0, kWidth, kHeight});
+  attract_picture.SetPictureFit(PictureFit::kCover);
   for (Panel* hidden : {&genre_bar, &pin_screen, &attract_picture}) hidden->SetVisible(false);
   searching.panel.BringToFront();
 

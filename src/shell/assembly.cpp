@@ -25,11 +25,12 @@ Assembly::Assembly(std::string path, Machine& ports)
       tags(fields, [this] { return settings.use_filename_if_no_tag; }),
       covers(app_path, settings),
       catalogue(app_path),
-      pages(ports, settings, catalogue, cursor, cover_layout, covers, form1),
+      animation(ports.events, ports.random),
+      pages(ports, settings, catalogue, cursor, cover_layout, covers, animation, form1),
       letter_jump(catalogue, cursor, cover_layout, pages, form1),
       carousel(catalogue, cursor, cover_layout, covers, pages, form1.carousel),
-      track_list(app_path, settings, catalogue, cursor, cover_layout, covers, pages, tags, fields,
-                 form1),
+      track_list(app_path, settings, catalogue, cursor, cover_layout, covers, pages, animation,
+                 tags, fields, form1),
       play_options(settings, cursor, covers, credits, tags, fields, form1),
       history(app_path, ports.clock, fields),
       facts(app_path, log),
@@ -38,7 +39,14 @@ Assembly::Assembly(std::string path, Machine& ports)
       queue_view(settings, queue, covers, tags, fields, form1),
       tracks(ports.events, settings, playback, engine, covers, history, tags, fields, state_timer,
              form1),
-      selection(settings, playback, cursor, credits, queue, queue_view, tracks, covers, tags) {
+      selection(settings, playback, cursor, credits, queue, queue_view, tracks, covers, tags),
+      random_play(app_path, ports.clock, ports.random, settings, lists, playback, tracks),
+      jingles(ports.random, settings, playback, selection),
+      fact_display(facts, fields, engine, form1),
+      rating(app_path, form1.now_playing),
+      attract(settings, ports.random, animation, form1),
+      calendar(app_path, settings) {
+  tracks.hooks.start_song_facts = [this] { fact_display.StartSongFacts(); };
   play_options.is_queued = [this](const std::string& chosen) { return queue.Contains(chosen); };
   selection.hand_to_master = [this](const std::string& track) {
     if (!network.terminal()) return false;

@@ -23,13 +23,19 @@
 #include "forms/Splash.h"
 #include "peripherals/network.h"
 #include "platform/machine.h"
+#include "playback/attract.h"
+#include "playback/fact_display.h"
 #include "playback/genre_lists.h"
 #include "playback/media_engine.h"
 #include "playback/queue.h"
 #include "playback/queue_view.h"
+#include "playback/random_play.h"
+#include "playback/rating.h"
 #include "playback/selection.h"
 #include "playback/track_sequence.h"
 #include "shell/boundary.h"
+#include "shell/calendar.h"
+#include "skins/cover_animation.h"
 
 namespace sonotik {
 
@@ -83,6 +89,7 @@ struct Assembly {
   CoverFinder covers;
   Catalogue catalogue;
   CatalogueCursor cursor;
+  CoverAnimation animation;
   AlbumPages pages;
   LetterJump letter_jump;
   Carousel carousel;
@@ -97,6 +104,12 @@ struct Assembly {
   QueueView queue_view;
   TrackSequence tracks;
   Selection selection;
+  RandomPlay random_play;
+  Jingles jingles;
+  FactDisplay fact_display;
+  Rating rating;
+  Attract attract;
+  Calendar calendar;
 };
 
 }  // namespace sonotik

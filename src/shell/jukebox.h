@@ -4,6 +4,7 @@
 
 #include <string>
 
+#include "playback/genre_lists.h"
 #include "shell/assembly.h"
 #include "shell/key_poll.h"
 #include "shell/menu.h"
@@ -27,6 +28,7 @@ class Jukebox {
         navigation(house, menu),
         keys(house, menu, navigation),
         shutdown(house) {
+    shutdown.hooks.save_random = [this] { SaveGenreLists(house.app_path, house.lists); };
     ticks.hooks.PollKeys = [this] { keys.PollKeys(); };
     menu.hooks.power_down = [this] { shutdown.power_down(); };
     ticks.hooks.leave_program = [this] { shutdown.TimedExit(); };

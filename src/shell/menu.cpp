@@ -31,9 +31,7 @@ void Menu::Wire() {
     OnClick(form.panels[i], "screen", [this] { TouchEmptySpace(); });
   }
   OnClick(form.attract_picture, "attract picture", [this] {
-    hooks.end_attract();
-    house_.form1.attract_picture.SetVisible(false);
-    house_.form1.panel(screen::kNowPlaying).SetVisible(false);
+    house_.attract.End();
     house_.form1.ShowScreen(screen::kAlbum);
   });
 
@@ -116,10 +114,7 @@ void Menu::EnterOptions() {
   house_.pin.EnterOptions();
 }
 
-void Menu::TouchEmptySpace() {
-  if (house_.form1.attract_picture.visible()) hooks.end_attract();
-  house_.form1.attract_picture.SetVisible(false);
-}
+void Menu::TouchEmptySpace() { house_.attract.End(); }
 
 void Menu::HideTop20Commands() {
   for (lvButtons_H& command : house_.form1.top20.commands) command.SetVisible(false);

@@ -16,7 +16,6 @@ struct ScreenHooks {
   std::function<void()> Top20_show3 = [] {};
   std::function<void()> reset_search = [] {};
   std::function<void()> show_genres = [] {};
-  std::function<void()> end_attract = [] {};
   std::function<void()> power_down = [] {};
 };
 

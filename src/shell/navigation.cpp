@@ -259,6 +259,8 @@ void Navigation::WireNowPlaying() {
   for (Label* label : {&form.now_playing.artist, &form.now_playing.title}) {
     OnClick(*label, "now-playing artist", [this] { menu_.Back(); });
   }
+  OnClick(form.now_playing.rating_up, "rating", [this] { house_.rating.Step(1); });
+  OnClick(form.now_playing.rating_down, "rating", [this] { house_.rating.Step(-1); });
   OnClick(form.now_playing.full_screen, "FULLSCREEN", [this] { ToggleFullScreen(); });
 }
 

@@ -147,6 +147,13 @@ void SettingsEffects::ShowDisplays() {
                         static_cast<Control*>(&form.now_playing_cover)}) {
     item->SetVisible(settings.show_now_playing);
   }
+  NowPlayingScreen& screen = form.now_playing;
+  for (Control* item :
+       {static_cast<Control*>(&screen.rating), static_cast<Control*>(&screen.rating_caption),
+        static_cast<Control*>(&screen.rating_up), static_cast<Control*>(&screen.rating_down)}) {
+    item->SetVisible(settings.show_ratings_thumbs);
+  }
+  if (settings.show_ratings_thumbs) house_.rating.ShowRating();
 }
 
 }  // namespace sonotik

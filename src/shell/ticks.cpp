@@ -25,7 +25,7 @@ void Ticks::StateTick() {
   const TimerHold off(house_.state_timer);
   CheckCalendar();
   TickTicker();
-  hooks.TickSongFacts();
+  house_.fact_display.TickSongFacts();
   TickIdle();
   ShowClock();
   if (ItIsTimeToLeave()) return hooks.leave_program();
@@ -42,7 +42,7 @@ void Ticks::CheckCalendar() {
   const Date today = house_.machine.clock.Now().date;
   if (today == house_.state.last_seen_date) return;
   house_.state.last_seen_date = today;
-  hooks.apply_calendar(today);
+  house_.calendar.Apply(today);
 }
 
 void Ticks::TickTicker() {
@@ -68,12 +68,14 @@ void Ticks::TickIdle() {
   if (!showing) {
     form.HideAllScreens();
     form.ShowScreen(screen::kNowPlaying);
+    // An attract picture that stands stays in front of it.
+    if (form.attract_picture.visible()) form.attract_picture.BringToFront();
   }
   // Over silence or a paused track a change comes each tick, and the seconds count whether attract
   // mode is on or off; both are meant.
   if ((showing || !playing) && house_.settings.attract_enabled &&
       (state.attract_seconds > NumberOrZero(house_.settings.attract_delay) || !playing)) {
-    hooks.attract_change();
+    house_.attract.Change();
     state.attract_seconds = 0;
   }
   ++state.attract_seconds;
@@ -150,9 +152,10 @@ void Ticks::CountDeadAir() {
   state.random_wait_seconds = 0;
   if (house_.settings.enable_jingles &&
       state.jingle_song_count >= house_.settings.jingle_song_count + 2) {
-    hooks.play_jingle();
+    state.jingle_song_count = 0;
+    house_.jingles.Play();
   } else {
-    hooks.Random_Play();
+    house_.random_play.Random_Play();
   }
 }
 

@@ -11,14 +11,9 @@ namespace sonotik {
 // What other rooms do in a tick or a poll, each at its place in the order; nothing until its owner
 // fills it in.
 struct TickHooks {
-  std::function<void(const Date& today)> apply_calendar = [](const Date&) {};
   std::function<bool()> ticker_visible = [] { return false; };
   std::function<void()> hide_ticker = [] {};
-  std::function<void()> TickSongFacts = [] {};
-  std::function<void()> attract_change = [] {};
   std::function<void()> leave_program = [] {};
-  std::function<void()> play_jingle = [] {};
-  std::function<void()> Random_Play = [] {};
   std::function<void()> PollKeys = [] {};
 };
 

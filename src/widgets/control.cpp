@@ -21,8 +21,19 @@ void Control::SetVisible(bool visible) {
   if (visible_ == visible) return;
   Invalidate();
   visible_ = visible;
+  if (visible) region_.reset();
   Invalidate();
   ShowingChanged();
+}
+
+void Control::SetRegion(std::optional<Region> region) {
+  const Region whole{{0, 0, place_.width, place_.height}};
+  const Region before = region_.value_or(whole);
+  const Region after = region.value_or(whole);
+  region_ = std::move(region);
+  // Only what comes or goes.
+  for (const Rect& part : Without(after, before)) Invalidate(part);
+  for (const Rect& part : Without(before, after)) Invalidate(part);
 }
 
 bool Control::showing() const {
@@ -58,10 +69,12 @@ void Control::BringToFront() {
   Invalidate();
 }
 
-void Control::Invalidate() {
+void Control::Invalidate() { Invalidate({0, 0, place_.width, place_.height}); }
+
+void Control::Invalidate(const Rect& part) {
   Form* root = form();
   if (root == nullptr || !showing()) return;
-  Rect shown = place_;
+  Rect shown = part.MovedBy(place_.left, place_.top);
   for (const Control* panel = parent_; panel != nullptr; panel = panel->parent_) {
     shown = shown.Intersected({0, 0, panel->place_.width, panel->place_.height})
                 .MovedBy(panel->place_.left, panel->place_.top);
@@ -116,6 +129,11 @@ Control* Panel::HitTest(Point at) {
     Control& control = **child;
     if (!control.visible() || !control.place().Contains(at)) continue;
     const Point inner{at.x - control.place().left, at.y - control.place().top};
+    if (control.region() &&
+        std::none_of(control.region()->begin(), control.region()->end(),
+                     [inner](const Rect& part) { return part.Contains(inner); })) {
+      continue;
+    }
     if (auto* panel = dynamic_cast<Panel*>(&control)) {
       if (Control* hit = panel->HitTest(inner)) return hit;
     } else if (control.TakesMouse() && control.Covers(inner)) {
@@ -132,20 +150,32 @@ void Panel::Paint(Canvas& canvas) const {
   size_t first = 0;
   bool covered = false;
   for (size_t i = children_.size(); i-- > 0 && !covered;) {
-    covered = children_[i]->visible() && children_[i]->opaque() &&
+    covered = children_[i]->visible() && children_[i]->opaque() && !children_[i]->region() &&
               children_[i]->place().Contains(visible);
     if (covered) first = i;
   }
   if (!covered && !transparent_) {
     canvas.FillRect(inner, back_color_);
-    if (!picture_.empty()) canvas.DrawPicture(picture_, inner, PictureFit::kStretch);
+    if (!picture_.empty()) canvas.DrawPicture(picture_, inner, picture_fit_);
   }
   for (size_t i = first; i < children_.size(); ++i) {
     const Control& child = *children_[i];
     if (!child.visible() || child.place().Intersected(visible).empty()) continue;
-    canvas.Push(child.place());
-    child.Paint(canvas);
-    canvas.Pop();
+    if (!child.region()) {
+      canvas.Push(child.place());
+      child.Paint(canvas);
+      canvas.Pop();
+      continue;
+    }
+    for (const Rect& part : *child.region()) {
+      if (part.MovedBy(child.place().left, child.place().top).Intersected(visible).empty())
+        continue;
+      canvas.Push(part.MovedBy(child.place().left, child.place().top));
+      canvas.Push({-part.left, -part.top, child.place().width, child.place().height});
+      child.Paint(canvas);
+      canvas.Pop();
+      canvas.Pop();
+    }
   }
 }
 

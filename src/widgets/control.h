@@ -5,12 +5,14 @@
 #define SONOTIK_WIDGETS_CONTROL_H_
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
 
 #include "widgets/canvas.h"
 #include "widgets/geometry.h"
+#include "widgets/region.h"
 
 namespace sonotik {
 
@@ -57,6 +59,10 @@ class Control {
   void SetPlace(const Rect& place);
   bool visible() const { return visible_; }
   void SetVisible(bool visible);
+  // Cuts it to a part of itself, in its own coordinates; nothing given, it is whole. One that comes
+  // to show is whole again, whatever it was cut to when it went.
+  void SetRegion(std::optional<Region> region);
+  const std::optional<Region>& region() const { return region_; }
   Panel* parent() const { return parent_; }
   // True if the control and all panels around it are visible.
   bool showing() const;
@@ -69,6 +75,8 @@ class Control {
 
   // Has the control painted again, if it shows.
   void Invalidate();
+  // The same for a part of it, in its own coordinates.
+  void Invalidate(const Rect& part);
 
   std::function<void()> on_click;
   std::function<void()> on_double_click;
@@ -124,6 +132,7 @@ class Control {
   friend class Panel;
   Rect place_;
   bool visible_ = true;
+  std::optional<Region> region_;
   Panel* parent_ = nullptr;
 };
 
@@ -146,6 +155,7 @@ class Panel : public Control {
   void SetTransparent(bool transparent) { Change(transparent_, transparent); }
   const std::string& picture() const { return picture_; }
   void SetPicture(std::string path) { Change(picture_, std::move(path)); }
+  void SetPictureFit(PictureFit fit) { Change(picture_fit_, fit); }
 
   // The topmost visible control at this point that takes the mouse, down through the panels.
   Control* HitTest(Point at);
@@ -160,6 +170,7 @@ class Panel : public Control {
   Color back_color_ = 0;
   bool transparent_ = false;
   std::string picture_;
+  PictureFit picture_fit_ = PictureFit::kStretch;
 };
 
 // The root of a window: it knows the mouse's capture and hover, the focus, and what has to be

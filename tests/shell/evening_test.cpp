@@ -349,7 +349,8 @@ TEST_F(EveningTest, PlayNowOfAFileThatCanNotBeReadCostsNothing) {
 
 TEST_F(EveningTest, AFailingHandlerGivesItsTimerBack) {
   Start();
-  jukebox->ticks.hooks.TickSongFacts = [] { throw RuntimeFailure("no facts"); };
+  jukebox->ticks.hooks.ticker_visible = []() -> bool { throw RuntimeFailure("no ticker"); };
+  house().settings.use_second_monitor = true;
   jukebox->ticks.hooks.PollKeys = [] { throw RuntimeFailure("no keys"); };
   Advance(3);
   EXPECT_GE(house().boundary.failures(), 6);

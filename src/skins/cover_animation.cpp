@@ -1,0 +1,89 @@
+#include "skins/cover_animation.h"
+
+namespace sonotik {
+namespace {
+
+constexpr int kStrips = 8;
+
+// From the middle of the control, this part of its width and height.
+Rect Centred(float width, float height, float across, float down) {
+  return {width * (1 - across) / 2, height * (1 - down) / 2, width * across, height * down};
+}
+
+// A thin line in the middle first grows to the whole width, then to the whole height.
+Rect Unfolded(int i, int n, float width, float height) {
+  const float line = 1 / static_cast<float>(n);
+  const float part = static_cast<float>(i) / static_cast<float>(n);
+  if (part < 0.5F) return Centred(width, height, 2 * part, line);
+  return Centred(width, height, 1, line + (1 - line) * (2 * part - 1));
+}
+
+}  // namespace
+
+Region RevealedRegion(int style, int i, int n, float width, float height) {
+  const float part = static_cast<float>(i) / static_cast<float>(n);
+  const float w = width * part;
+  const float h = height * part;
+  Region strips;
+  for (int k = 0; k < kStrips; ++k) {
+    const float at = static_cast<float>(k) / kStrips;
+    if (style == 12) strips.push_back({0, height * at, width, h / kStrips});
+    if (style == 13) strips.push_back({width * at, 0, w / kStrips, height});
+  }
+  switch (style) {
+    case 0:
+      return {{0, 0, w, height}};
+    case 1:
+      return {{width - w, 0, w, height}};
+    case 2:
+      return {{0, 0, width, h}};
+    case 3:
+      return {{0, height - h, width, h}};
+    case 4:
+      return {{0, 0, w, h}};
+    case 5:
+      return {{0, height - h, w, h}};
+    case 6:
+      return {{width - w, 0, w, h}};
+    case 7:
+      return {{width - w, height - h, w, h}};
+    case 8:
+      return {Centred(width, height, part, 1)};
+    case 9:
+      return {Centred(width, height, 1, part)};
+    case 10:
+      return {Centred(width, height, part, part)};
+    case 11:
+      return {Unfolded(i, n, width, height)};
+    default:
+      return strips;
+  }
+}
+
+bool CoverAnimation::Animate(Control& target, int show, int style, int delay_ms, int steps) {
+  target.SetVisible(true);
+  target.SetRegion({});
+  if (style < 0 || style >= kRandomStyle || steps <= 0) {
+    running_ = false;
+    return false;
+  }
+  running_ = true;
+  const float width = target.place().width;
+  const float height = target.place().height;
+  for (int i = 0; i <= steps; ++i) {
+    Region region = RevealedRegion(style, i, steps, width, height);
+    if (show == 0) region = Without({{0, 0, width, height}}, region);
+    target.SetRegion(std::move(region));
+    if (delay_ms > 0) {
+      events_.WaitForEvents(delay_ms);
+    } else {
+      events_.PumpEvents();
+    }
+  }
+  // Revealed it is whole again, whatever size it takes from here on.
+  if (show != 0) target.SetRegion({});
+  running_ = false;
+  return true;
+}
+
+}  // namespace sonotik

@@ -1,0 +1,81 @@
+// Facts of the playing song, and its thumbs.
+#include <gtest/gtest.h>
+
+#include "support/jukebox_test.h"
+
+namespace sonotik {
+namespace {
+
+std::string FactBytes(const std::string& artist, const std::string& track,
+                      const std::array<std::string, 5>& facts) {
+  SongFactRecord record;
+  PutField(record.bytes, 0, 60, artist);
+  PutField(record.bytes, 60, 60, track);
+  for (size_t i = 0; i < facts.size(); ++i) PutField(record.bytes, 120 + 255 * i, 255, facts[i]);
+  return {record.bytes.data(), record.bytes.size()};
+}
+
+class FactDisplayTest : public JukeboxTest {
+ protected:
+  FactDisplayTest() {
+    folder.Write("songfacts.dat", FactBytes("ADA & Co", "Other", {"no", "", "", "", ""}) +
+                                      FactBytes("ada & co", "DAWN", {"1", "2", "", "4", "5"}));
+    dawn = WriteTrack("Day", "1.wav", "Ada & Co", "Dawn");
+    noon = WriteTrack("Day", "2.wav", "Ada & Co", "Noon");
+    other = WriteTrack("Day", "3.wav", "Bob", "Dawn");
+  }
+  // The fact that shows, "-" for none.
+  std::string Fact() { return form().song_fact.visible() ? form().song_fact.caption() : "-"; }
+  std::string dawn, noon, other;
+};
+
+TEST_F(FactDisplayTest, FactsAreSpacedOverTheTrackAndAnEmptyOneUsesItsTurn) {
+  machine.player.lengths[dawn] = 100;
+  Start();
+  std::vector<std::string> sign;
+  house().fact_display.send_to_sign = [&](const std::string& line1, const std::string& line2) {
+    sign.push_back(line1 + "/" + line2);
+  };
+  house().selection.Choose(dawn, PlayWay::kPlayNow);
+  const struct {
+    int seconds;
+    const char* fact;
+  } moments[] = {{0, "1"},  {12, "1"}, {13, "-"}, {20, "-"}, {21, "2"}, {33, "2"},
+                 {34, "-"}, {42, "-"}, {62, "-"}, {63, "4"}, {84, "5"}, {97, "-"}};
+  int now = 0;
+  for (const auto& moment : moments) {
+    Advance(moment.seconds - now);
+    now = moment.seconds;
+    EXPECT_EQ(Fact(), moment.fact) << now;
+  }
+  EXPECT_EQ(sign, (std::vector<std::string>{"1/", "Ada && Co/Dawn", "2/", "Ada && Co/Dawn", "4/",
+                                            "Ada && Co/Dawn", "5/", "Ada && Co/Dawn"}));
+}
+
+TEST_F(FactDisplayTest, ATitleWithoutFactsHidesThemAndAnArtistWithoutLeavesThemToTheTick) {
+  Start();
+  house().selection.Choose(dawn, PlayWay::kPlayNow);
+  EXPECT_EQ(Fact(), "1");
+  house().selection.Choose(noon, PlayWay::kPlayNow);
+  EXPECT_EQ(Fact(), "-");
+  house().selection.Choose(dawn, PlayWay::kPlayNow);
+  house().selection.Choose(other, PlayWay::kPlayNow);
+  EXPECT_EQ(Fact(), "1");
+  Advance(1);
+  EXPECT_EQ(Fact(), "-");
+}
+
+TEST_F(FactDisplayTest, ThumbsStopAtThreeAndStayOverATrackStart) {
+  settings.show_ratings_thumbs = true;
+  WriteDefaults();
+  Start();
+  form().ShowScreen(screen::kNowPlaying);
+  for (int i = 0; i < 5; ++i) Click(form().now_playing.rating_up);
+  EXPECT_EQ(house().rating.current(), 3);
+  house().selection.Choose(dawn, PlayWay::kPlayNow);
+  for (int i = 0; i < 9; ++i) Click(form().now_playing.rating_down);
+  EXPECT_EQ(house().rating.current(), -3);
+}
+
+}  // namespace
+}  // namespace sonotik
