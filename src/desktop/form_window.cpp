@@ -91,6 +91,8 @@ Point FormWindow::FormPoint(const QPointF& at) const {
 
 void FormWindow::UpdateDirty() {
   for (const Rect& rect : form_.TakeDirty()) {
+    // With the whole form, its size may be another, and the bars beside it.
+    if (rect.Contains(Rect{0, 0, form_.place().width, form_.place().height})) return update();
     const QPointF corner = QPointF(rect.left, rect.top) * Scale() + Offset();
     update(QRectF(corner, QSizeF(rect.width, rect.height) * Scale())
                .toAlignedRect()

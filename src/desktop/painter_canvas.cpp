@@ -11,6 +11,7 @@ namespace sonotik {
 namespace {
 
 constexpr double kPixelsPerPoint = 96.0 / 72.0;
+constexpr double kMostPixels = 4096;  // of a picture's longer side
 // A picture that can't be decoded.
 constexpr Color kPlate = Rgb(48, 52, 70);
 
@@ -111,14 +112,17 @@ void PainterCanvas::DrawPolygon(std::span<const Point> corners, const Brush& bru
 }
 
 void PainterCanvas::DrawPicture(const std::string& path, const Rect& rect, PictureFit fit) {
-  const QSize pixels(static_cast<int>(std::lround(rect.width * scale_)),
-                     static_cast<int>(std::lround(rect.height * scale_)));
+  // A skin may give a place of any size: no more is decoded than a screen can show.
+  const double longest = std::max(rect.width, rect.height) * scale_;
+  const double scale = longest > kMostPixels ? scale_ * kMostPixels / longest : scale_;
+  const QSize pixels(static_cast<int>(std::lround(rect.width * scale)),
+                     static_cast<int>(std::lround(rect.height * scale)));
   if (pixels.isEmpty()) return;
   const QImage& image = pictures_.Get(path, pixels, fit);
   if (image.isNull()) return FillRect(rect, kPlate, 0);
   // Centred: a picture that is contained may be smaller than its place.
-  const double width = image.width() / scale_;
-  const double height = image.height() / scale_;
+  const double width = image.width() / scale;
+  const double height = image.height() / scale;
   painter_.drawImage(QRectF(rect.left + (rect.width - width) / 2,
                             rect.top + (rect.height - height) / 2, width, height),
                      image);

@@ -100,6 +100,23 @@ void QtDisplays::SetMousePointerVisible(bool visible) {
   Apply();
 }
 
+void QtDisplays::SetWindowSize(int width, int height) {
+  // The desktop puts its own frame around.
+  if (window_ != nullptr) window_->resize(width - kFrameWidth, height - kFrameHeight);
+}
+
+void QtDisplays::SetWindowPosition(int left, int top) {
+  if (window_ != nullptr) window_->move(left, top);
+}
+
+void QtDisplays::FitWindow(bool on_top) {
+  top_most_ = on_top;
+  if (const QScreen* screen = QGuiApplication::primaryScreen(); screen && window_ != nullptr) {
+    window_->setGeometry(screen->geometry());
+  }
+  Apply();
+}
+
 void QtDisplays::Apply() {
   if (window_ == nullptr) return;
   const bool shown = window_->isVisible();

@@ -52,6 +52,14 @@ class QtDisplays : public Displays {
   void SetFullScreen(bool full_screen) override;
   void SetTopMost(bool top_most) override;
   void SetMousePointerVisible(bool visible) override;
+  void SetWindowSize(int width, int height) override;
+  void SetWindowPosition(int left, int top) override;
+  void FitWindow(bool on_top) override;
+  // The window scales whatever a skin is drawn for to the monitor, and covers the desktop's bars:
+  // neither the mode nor the bars have to change.
+  void ChangeResolution(int, int) override {}
+  void RestoreResolution() override {}
+  void SetTaskbarVisible(bool) override {}
 
  private:
   void Apply();

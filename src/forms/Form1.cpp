@@ -109,6 +109,7 @@ Form1::Form1()
   KeepShare(random);
   KeepShare(searching.panel);
   KeepShare(attract_picture);
+  KeepShare(song_fact);
 }
 
 void Form1::KeepShare(Control& control) {

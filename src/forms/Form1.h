@@ -83,8 +83,6 @@ struct Form1 {
   Label credits;
   Label play_caption;  // beside the credit display: "Play NOW"
   Label clock;
-  // Of the skin: below 1 the genres have a screen of their own, else a bar in the menu's place.
-  int genre_style = 0;
   // Over whatever screen shows while a fact of the playing song is up.
   Label song_fact;
   // Further panels beside the sixteen.

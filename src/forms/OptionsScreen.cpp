@@ -19,6 +19,8 @@ OptionsScreen::OptionsScreen(Panel& screen) : panel(screen) {
     AddPanel(pages, section, {0, 0, 984, 580}, kPanel);
     section.SetVisible(false);
   }
+  AddPicture(section_panels[1], skin_preview, {676, 16, 292, 180}, PictureFit::kContain);
+  AddLabel(section_panels[1], skin_resolution, {676, 200, 292, 30}, 11, kMuted);
   AddLabel(panel, version, {272, 606, 984, 26}, 11, kMuted, Align::kRight);
 }
 

@@ -23,6 +23,9 @@ struct OptionsScreen {
   Panel pages;
   std::array<Panel, kOptionSections> section_panels;
   Label version;
+  // On the panel of the appearance: what the skin that is picked in the list looks like.
+  PictureBox skin_preview;
+  Label skin_resolution;  // "Resolution: 1920 x 1080"
 };
 
 }  // namespace sonotik

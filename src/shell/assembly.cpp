@@ -23,6 +23,7 @@ Assembly::Assembly(std::string path, Machine& ports)
       pin(app_path, ports.clock, settings, permissions, form1),
       network(app_path),
       tags(fields, [this] { return settings.use_filename_if_no_tag; }),
+      skins(app_path, settings, lists, form1, ports),
       covers(app_path, settings),
       catalogue(app_path),
       animation(ports.events, ports.random),
@@ -54,6 +55,12 @@ Assembly::Assembly(std::string path, Machine& ports)
     return true;
   };
   play_options.queue_count = [this] { return queue.count(); };
+  skins.hooks.set_track_rows = [this](int rows) { track_list.SetRowsPerPage(rows); };
+  skins.hooks.fit_video_window = [this] { engine.FitVideoWindow(); };
+  for (ucAniGIF* gif :
+       {&form1.now_playing_indicator, &form1.now_playing.rating, &form1.decades.chart_picture}) {
+    gif->SetTimers(machine.timers);
+  }
 }
 
 }  // namespace sonotik

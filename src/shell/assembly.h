@@ -36,6 +36,7 @@
 #include "shell/boundary.h"
 #include "shell/calendar.h"
 #include "skins/cover_animation.h"
+#include "skins/skin_loader.h"
 
 namespace sonotik {
 
@@ -86,6 +87,7 @@ struct Assembly {
   TagFields fields;
   TagReader tags;
   CoverLayout cover_layout;
+  SkinLoader skins;
   CoverFinder covers;
   Catalogue catalogue;
   CatalogueCursor cursor;

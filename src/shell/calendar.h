@@ -24,7 +24,7 @@ class Calendar {
   Calendar(const std::string& app_path, Settings& settings)
       : app_path_(app_path), settings_(settings) {}
 
-  // The day's skin is put on; nothing until the skins are there.
+  // Puts on the day's skin.
   std::function<void(const std::string& name)> swap_skin = [](const std::string&) {};
 
   // The first tick of a day: what its file says holds until the program ends, or until a day that

@@ -29,6 +29,9 @@ class Jukebox {
         keys(house, menu, navigation),
         shutdown(house) {
     shutdown.hooks.save_random = [this] { SaveGenreLists(house.app_path, house.lists); };
+    house.calendar.swap_skin = [this](const std::string& name) { effects.PutOnSkin(name); };
+    start_up.hooks.ApplySkin = [this] { house.skins.ApplySkin(); };
+    start_up.hooks.update_skinlist = [this] { house.skins.UpdateSkinList(); };
     ticks.hooks.PollKeys = [this] { keys.PollKeys(); };
     menu.hooks.power_down = [this] { shutdown.power_down(); };
     ticks.hooks.leave_program = [this] { shutdown.TimedExit(); };

@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "config/settings_table.h"
-#include "files/file_list.h"
 #include "skins/cover_layout.h"
 
 namespace sonotik {
@@ -30,7 +29,11 @@ void SettingsEffects::Apply(int row, bool changed) {
       house_.state.attract_settings_loaded = true;
       break;
     case setting_row::kCurrentSkin:
-      if (changed) preview_skin();
+      // A skin that can't be shown is no fault of the settings.
+      if (changed) {
+        house_.boundary.Run("PreviewSkin",
+                            [this] { house_.skins.Select(house_.settings.current_skin); });
+      }
       break;
     case setting_row::kCoverLayout:
       SelectCoverLayout();
@@ -77,21 +80,21 @@ void SettingsEffects::SwitchCreditMode() {
 }
 
 void SettingsEffects::SelectCoverLayout() {
-  FileList layouts("*.cov");
-  layouts.SetFolder(house_.app_path + "\\skins\\" + house_.settings.current_skin);
-  house_.lists.cover_layouts = layouts.names();
+  const int wanted = std::max(house_.settings.cover_layout, 0);
+  house_.skins.PointCoverLayouts();
   int& index = house_.settings.cover_layout;
-  if (layouts.count() == 0) {
+  if (house_.lists.cover_layouts.empty()) {
     // A skin without a layout keeps the one in force.
     index = -1;
     return;
   }
-  index = std::max(index, 0);
-  if (index >= layouts.count()) {
+  index = wanted;
+  const std::string path = house_.skins.SelectedCoverLayout();
+  if (path.empty()) {
     throw RuntimeFailure("the skin has no cover layout number " + std::to_string(index));
   }
   // Only another one is loaded: reading the settings again leaves the guest's page alone.
-  if (layouts.PathAt(index) != shown_layout_) ShowCoverLayout(layouts.PathAt(index));
+  if (path != shown_layout_) ShowCoverLayout(path);
 }
 
 void SettingsEffects::ShowCoverLayout(const std::string& path) {
@@ -102,6 +105,23 @@ void SettingsEffects::ShowCoverLayout(const std::string& path) {
     house_.cursor.SetPosition(CatalogueSource::kRecords, 1);
     house_.pages.read_albums3();
   });
+}
+
+void SettingsEffects::ApplySelectedSkin() {
+  if (!house_.state.attract_settings_loaded || house_.skins.selected().empty()) return;
+  PutOnSkin(house_.skins.selected());
+  house_.pages.SetPageValid(false);
+}
+
+void SettingsEffects::PutOnSkin(const std::string& skin) {
+  house_.settings.current_skin = skin;
+  house_.skins.ApplySkin();
+  if (house_.lists.cover_layouts.empty()) {
+    house_.pages.read_albums3();
+  } else {
+    house_.settings.cover_layout = 0;
+    ShowCoverLayout(house_.skins.SelectedCoverLayout());
+  }
 }
 
 void SettingsEffects::ShowMenu() {

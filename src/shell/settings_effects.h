@@ -2,7 +2,6 @@
 #ifndef SONOTIK_SHELL_SETTINGS_EFFECTS_H_
 #define SONOTIK_SHELL_SETTINGS_EFFECTS_H_
 
-#include <functional>
 #include <string>
 
 #include "shell/assembly.h"
@@ -15,15 +14,18 @@ class SettingsEffects {
 
   // Reads the settings, their effects included.
   void LoadConfig();
-  // Shows the skin that a name stands for; the page for settings fills it in.
-  std::function<void()> preview_skin = [] {};
+  // Puts on the skin that is picked in the list, with its first cover layout. Nothing happens
+  // before the settings have been read, or with none picked.
+  void ApplySelectedSkin();
+  // The same for the skin of this name.
+  void PutOnSkin(const std::string& skin);
+  // The skin's layouts, and the one with the setting's index; one that isn't in a list with items
+  // throws RuntimeFailure.
+  void SelectCoverLayout();
 
  private:
   void Apply(int row, bool changed);
   void SwitchCreditMode();
-  // The skin's layouts, and the one with the setting's index; one that isn't in a list with items
-  // throws RuntimeFailure.
-  void SelectCoverLayout();
   void ShowCoverLayout(const std::string& path);
   void ShowMenu();
   void HideTabs();

@@ -13,8 +13,7 @@ void Shutdown::power_down() {
   };
   step("player beside", house_.tracks.hooks.close_visualisation);
   step("sign", hooks.send_closing_text);
-  step("taskbar", hooks.ShowTaskbar);
-  step("display mode", hooks.RestoreResolution);
+  GiveBackDesktop();
   SaveQueue();
   if (house_.settings.save_carousel_on_shutdown) step("random.dat", hooks.save_random);
   RunCommand();
@@ -25,12 +24,16 @@ void Shutdown::power_down() {
 
 void Shutdown::TimedExit() {
   if (house_.state.shutting_down) return;
-  house_.boundary.Run("taskbar", hooks.ShowTaskbar);
-  house_.boundary.Run("display mode", hooks.RestoreResolution);
+  GiveBackDesktop();
   SaveQueue();
   RunCommand();
   house_.state.shutting_down = true;
   Unload();
+}
+
+void Shutdown::GiveBackDesktop() {
+  house_.machine.displays.SetTaskbarVisible(true);
+  if (house_.skins.mode_changed()) house_.machine.displays.RestoreResolution();
 }
 
 void Shutdown::SaveQueue() {

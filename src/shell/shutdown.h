@@ -8,12 +8,10 @@
 
 namespace sonotik {
 
-// What others close, give back or save when the program leaves, in the order in which it happens;
+// What others close or save when the program leaves, in the order in which it happens;
 // nothing until they fill it in.
 struct ShutdownHooks {
   std::function<void()> send_closing_text = [] {};
-  std::function<void()> ShowTaskbar = [] {};
-  std::function<void()> RestoreResolution = [] {};
   std::function<void()> save_random = [] {};
 };
 
@@ -31,6 +29,7 @@ class Shutdown {
   void TimedExit();
 
  private:
+  void GiveBackDesktop();
   void SaveQueue();
   void RunCommand();
   void EndSession();

@@ -6,6 +6,7 @@
 
 #include "files/files.h"
 #include "files/line_format.h"
+#include "skins/coordinates.h"
 
 namespace sonotik {
 namespace {
@@ -19,10 +20,10 @@ std::array<Control*, kItems> ItemsOf(CoverPosition& position) {
 
 Rect ReadBox(FieldReader& reader) {
   Rect place;
-  place.top = static_cast<float>(reader.Float());
-  place.left = static_cast<float>(reader.Float());
-  place.height = static_cast<float>(reader.Float());
-  place.width = static_cast<float>(reader.Float());
+  place.top = ReadCoordinate(reader);
+  place.left = ReadCoordinate(reader);
+  place.height = ReadLength(reader);
+  place.width = ReadLength(reader);
   return place;
 }
 

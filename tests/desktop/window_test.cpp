@@ -8,10 +8,11 @@
 
 #include "desktop/form_window.h"
 #include "desktop/painter_canvas.h"
-#include "files/program_folder.h"
 #include "desktop/qt_machine.h"
 #include "desktop/text_decoding.h"
+#include "files/program_folder.h"
 #include "support/jukebox_test.h"
+#include "support/skin_files.h"
 
 namespace sonotik {
 namespace {
@@ -70,6 +71,42 @@ TEST_F(WindowTest, ATouchFindsItsControlAtAnyWindowSize) {
     MouseAt(QEvent::MouseButtonPress, at);
     MouseAt(QEvent::MouseButtonRelease, at);
     EXPECT_TRUE(form().panel(screen::kQueue).visible()) << size.width();
+  }
+}
+
+TEST_F(WindowTest, PaintsASkinWhoseNumbersMakeNoSense) {
+  Start();
+  ShowWindow();
+  QImage picture(40, 30, QImage::Format_RGB32);
+  picture.fill(Qt::red);
+  picture.save(QString::fromStdString((folder.native() / "skins/Plain/a.bmp").string()));
+  for (const char* number : {"-1e30", "-1", "0", "1", "1e5", "1e30"}) {
+    for (const LayoutFile& file : LayoutFiles()) {
+      folder.Write(std::string("skins/Plain/") + file.name,
+                   LayoutText(file, [&](const LayoutField& field) -> std::string {
+                     switch (field.kind) {
+                       case FieldKind::kTop:
+                       case FieldKind::kLeft:
+                         return field.number % 3 == 0 ? number : "0";
+                       case FieldKind::kHeight:
+                       case FieldKind::kWidth:
+                       case FieldKind::kFontSize:
+                         return number;
+                       case FieldKind::kPicture:
+                         return field.number % 3 == 0 ? "" : "a.bmp";
+                       case FieldKind::kShape:
+                         return std::to_string(field.number % 9);
+                       default:
+                         return PlainValue(field);
+                     }
+                   }));
+    }
+    jukebox->house.skins.ApplySkin();
+    for (size_t i = 0; i < form().panels.size(); ++i) {
+      form().HideAllScreens();
+      form().ShowScreen(i);
+      EXPECT_FALSE(window->grab().isNull()) << number;
+    }
   }
 }
 

@@ -142,11 +142,23 @@ class TestDisplays : public Displays {
   bool full_screen = false;
   bool top_most = false;
   bool pointer = true;
+  std::vector<std::string> calls;
   int MonitorCount() override { return monitors; }
   DisplayMode CurrentMode() override { return {1280, 800, 24, 60}; }
   void SetFullScreen(bool on) override { full_screen = on; }
   void SetTopMost(bool on) override { top_most = on; }
   void SetMousePointerVisible(bool visible) override { pointer = visible; }
+  void SetWindowSize(int width, int height) override { Note("SetWindowSize", width, height); }
+  void SetWindowPosition(int left, int top) override { Note("SetWindowPosition", left, top); }
+  void FitWindow(bool on_top) override { Note("FitWindow", on_top, 0); }
+  void ChangeResolution(int width, int height) override { Note("ChangeResolution", width, height); }
+  void RestoreResolution() override { Note("RestoreResolution", 0, 0); }
+  void SetTaskbarVisible(bool visible) override { Note("SetTaskbarVisible", visible, 0); }
+
+ private:
+  void Note(const std::string& call, int a, int b) {
+    calls.push_back(call + ' ' + std::to_string(a) + ' ' + std::to_string(b));
+  }
 };
 
 class TestProcesses : public Processes {

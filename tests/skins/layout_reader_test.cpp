@@ -1,0 +1,338 @@
+#include "skins/layout_reader.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+#include "files/runtime_failure.h"
+#include "support/skin_files.h"
+#include "support/temp_folder.h"
+
+namespace sonotik {
+namespace {
+
+using testing::HasSubstr;
+
+class LayoutReaderTest : public testing::Test {
+ protected:
+  LayoutReaderTest() : targets(form), reader(targets, folder.path()) {}
+
+  void ReadText(const LayoutFile& file, const std::string& text) { reader.ReadText(file, text); }
+  // What the failure says; empty if there was none.
+  std::string Failure(const LayoutFile& file, const std::string& text) {
+    try {
+      ReadText(file, text);
+    } catch (const RuntimeFailure& failure) {
+      return failure.what();
+    }
+    return "";
+  }
+
+  TempFolder folder;
+  Form1 form;
+  LayoutTargets targets;
+  LayoutReader reader;
+};
+
+std::vector<const LayoutFile*> AllFiles() {
+  std::vector<const LayoutFile*> files = {&SkinFile()};
+  for (const LayoutFile& file : LayoutFiles()) files.push_back(&file);
+  return files;
+}
+
+bool IsNumber(FieldKind kind) {
+  switch (kind) {
+    case FieldKind::kIgnored:
+    case FieldKind::kVersion:
+    case FieldKind::kCaption:
+    case FieldKind::kFont:
+    case FieldKind::kFontName:
+    case FieldKind::kPicture:
+    case FieldKind::kAnimation:
+      return false;
+    default:
+      return true;
+  }
+}
+
+TEST_F(LayoutReaderTest, FindsAControlOfItsKindBehindEachTarget) {
+  for (const LayoutFile* file : AllFiles()) {
+    for (const LayoutField& field : WrittenFields(*file)) {
+      const auto controls = targets.At(field.block->target, field.index);
+      for (const Control* control : controls) {
+        if (field.kind == FieldKind::kShape) {
+          EXPECT_NE(dynamic_cast<const lvButtons_H*>(control), nullptr) << field.block->target;
+        } else if (field.kind == FieldKind::kFontName) {
+          EXPECT_NE(dynamic_cast<const Label*>(control), nullptr) << field.block->target;
+        }
+      }
+      if (field.block->kind != BlockKind::kIgnored && field.block->kind != BlockKind::kHead &&
+          field.block->kind != BlockKind::kVersion &&
+          field.block->kind != BlockKind::kLabelledCount) {
+        EXPECT_FALSE(controls.empty()) << file->name << ' ' << field.number;
+        for (const Control* control : controls) EXPECT_EQ(control->form(), &form.form);
+      }
+    }
+  }
+}
+
+// All files with a value of its own in each field: what counts in the end is the last file.
+TEST_F(LayoutReaderTest, HandsEachValueToItsControlAndTheLaterFileWins) {
+  std::map<std::pair<Control*, FieldKind>, std::string> last;
+  for (const LayoutFile* file : AllFiles()) {
+    ReadText(*file, LayoutText(*file));
+    for (const LayoutField& field : WrittenFields(*file)) {
+      for (Control* control : targets.At(field.block->target, field.index)) {
+        last[{control, field.kind}] = PlainValue(field);
+      }
+    }
+  }
+  for (const auto& [key, value] : last) {
+    Control* const control = key.first;
+    auto* const button = dynamic_cast<lvButtons_H*>(control);
+    auto* const label = dynamic_cast<Label*>(control);
+    const Rect place = control->place();
+    switch (key.second) {
+      case FieldKind::kTop:
+        EXPECT_EQ(place.top, std::stof(value));
+        break;
+      case FieldKind::kLeft:
+        EXPECT_EQ(place.left, std::stof(value));
+        break;
+      case FieldKind::kHeight:
+        EXPECT_EQ(place.height, std::stof(value));
+        break;
+      case FieldKind::kWidth:
+        EXPECT_EQ(place.width, std::stof(value));
+        break;
+      case FieldKind::kCaption:
+        EXPECT_EQ(button->caption(), value);
+        break;
+      case FieldKind::kShape:
+        EXPECT_EQ(button->shape(), std::stoi(value));
+        break;
+      case FieldKind::kMode:
+        EXPECT_EQ(button->mode(), std::stoi(value));
+        break;
+      case FieldKind::kFontStyle:
+        EXPECT_EQ(button->cap_style(), std::stoi(value));
+        break;
+      case FieldKind::kFont:
+        EXPECT_EQ("Face " + std::to_string(std::lround(button->font().points)), value);
+        EXPECT_EQ(button->font().family, "Face");
+        EXPECT_TRUE(button->focus());
+        break;
+      case FieldKind::kFontName:
+        EXPECT_EQ(label->font().family, value);
+        break;
+      case FieldKind::kFontSize:
+        EXPECT_EQ(label->font().points, std::stof(value));
+        break;
+      case FieldKind::kForeColor:
+        if (button != nullptr) {
+          EXPECT_EQ(std::to_string(button->cFore()), value);
+          EXPECT_EQ(button->cFHover(), button->cFore());
+        } else if (label != nullptr) {
+          EXPECT_EQ(std::to_string(label->fore_color()), value);
+        }
+        break;
+      case FieldKind::kBackColor:
+        if (button != nullptr) {
+          EXPECT_EQ(std::to_string(button->cBack()), value);
+        } else if (label != nullptr) {
+          EXPECT_EQ(std::to_string(label->back_color()), value);
+        } else {
+          EXPECT_EQ(std::to_string(dynamic_cast<Panel&>(*control).back_color()), value);
+        }
+        break;
+      default:
+        break;
+    }
+  }
+  // The program's own texts are not the skin's.
+  EXPECT_EQ(form.options.sections[7].caption(), "LED SIGN");
+  EXPECT_EQ(form.genre.labels[0].caption(), "ALL GENRES");
+}
+
+// Some by hand, where the tables and the targets could be wrong together.
+TEST_F(LayoutReaderTest, PutsTheOddOnesWhereTheyBelong) {
+  for (const LayoutFile* file : AllFiles()) ReadText(*file, LayoutText(*file));
+  EXPECT_EQ(form.album.tabs[5].caption(), "Caption 2");  // spin.ini, over nav.ini
+  EXPECT_EQ(form.album.tabs[4].caption(), "Caption 118");
+  EXPECT_EQ(form.album.tabs[3].caption(), "Most Played");
+  EXPECT_EQ(form.album.tabs[0].place().left, 89.5F);  // nav.ini, whatever tab.ini says of its look
+  EXPECT_EQ(form.album.tabs[0].caption(), "Caption 2");
+  EXPECT_EQ(form.pin_screen.place(), Rect({147.5F, 148.5F, 5.5F, 4.5F}));
+  EXPECT_EQ(form.panel(4).place(), Rect({35.5F, 34.5F, 37.5F, 36.5F}));
+  EXPECT_EQ(form.panel(11).place(), Rect({42.5F, 41.5F, 44.5F, 43.5F}));
+  EXPECT_EQ(form.volume.place(), Rect({70.5F, 69.5F, 68.5F, 67.5F}));
+  EXPECT_EQ(form.track_list.quick_jump_left.caption(), "Caption 15");
+  EXPECT_EQ(form.track_list.burn_cd.caption(), "Caption 471");
+  EXPECT_EQ(form.play_options.prices[2].place().top, 119.5F);  // Play Now
+  EXPECT_EQ(form.queue.rows[1].number.place().top, 167.5F);
+  EXPECT_EQ(form.search.suggestions[2].place().top, 442.5F);
+  EXPECT_EQ(form.decades.month_buttons[11].shape(), 157 % 7);
+}
+
+TEST_F(LayoutReaderTest, DoesNothingWithoutAFileAndFailsAtWhatIsMissingInOne) {
+  for (const LayoutFile* file : AllFiles()) {
+    EXPECT_FALSE(reader.Read(*file)) << file->name;
+    std::string text;
+    for (const LayoutField& field : WrittenFields(*file)) {
+      const std::string due = "field " + std::to_string(field.number) + ": ";
+      EXPECT_THAT(Failure(*file, text), HasSubstr(due)) << file->name;
+      text += PlainValue(field) + "\r\n";
+    }
+    EXPECT_EQ(Failure(*file, text), "") << file->name;
+    EXPECT_EQ(Failure(*file, text + "more,\r\n\"than it needs"), "") << file->name;
+  }
+}
+
+TEST_F(LayoutReaderTest, KeepsWhatWasHandedOnBeforeAFailureAndTouchesNothingBehind) {
+  const LayoutFile& file = *FindLayoutFile("search_tab.ini");
+  auto& tabs = form.search_results.tabs;
+  tabs[1].SetShape(4);
+  tabs[2].SetShape(4);
+  std::string text;
+  // All of the first and the caption of the second.
+  for (const LayoutField& field : WrittenFields(file)) {
+    if (field.number <= 13 + 2) text += PlainValue(field) + "\n";
+  }
+  EXPECT_THAT(Failure(file, text), HasSubstr("search_tab.ini: field 16"));
+  EXPECT_EQ(tabs[0].shape(), 3);
+  EXPECT_EQ(tabs[1].caption(), "Caption 15");
+  EXPECT_EQ(tabs[1].shape(), 0);
+  EXPECT_EQ(tabs[2].caption(), "Karaoke");
+  EXPECT_EQ(tabs[2].shape(), 4);
+}
+
+TEST_F(LayoutReaderTest, FailsAtAWordWhereANumberIsDueAndNowhereElse) {
+  for (const LayoutFile* file : AllFiles()) {
+    for (const LayoutField& field : WrittenFields(*file)) {
+      const std::string failure = Failure(*file, LayoutText(*file, PlainBut(field.number, "word")));
+      EXPECT_EQ(!failure.empty(), IsNumber(field.kind))
+          << file->name << ' ' << field.number << ' ' << failure;
+    }
+  }
+}
+
+TEST_F(LayoutReaderTest, StaysWithinAnyScreenForNumbersOfAnySize) {
+  const char* const kNumbers[] = {
+      "1e308", "-1e308",     "1e999", "99999999999999999999", "nan",    "-inf", "0x10", "1e-320",
+      "-0",    "2147483648", "",      "-2147483648",          " 7  \t", "-1",   "+3",   "1,5"};
+  for (const LayoutFile* file : AllFiles()) {
+    for (const char* number : kNumbers) {
+      Failure(*file, LayoutText(*file, [&](const LayoutField& field) {
+        return IsNumber(field.kind) ? number : PlainValue(field);
+      }));
+      for (const LayoutField& field : WrittenFields(*file)) {
+        // Each kind of field comes by, in each file.
+        if (field.number % 19 != 0) continue;
+        Failure(*file, LayoutText(*file, PlainBut(field.number, number)));
+        for (const Control* control : targets.At(field.block->target, field.index)) {
+          const Rect place = control->place();
+          for (const float value : {place.left, place.top, place.width, place.height}) {
+            EXPECT_LE(std::abs(value), 100000) << file->name << ' ' << field.number;
+          }
+          EXPECT_GE(std::min(place.width, place.height), 0);
+        }
+      }
+    }
+  }
+}
+
+TEST_F(LayoutReaderTest, TakesLineEndsOfAnyKind) {
+  for (const char* line_end : {"\n", "\r", "\r\n", ","}) {
+    for (const LayoutFile* file : AllFiles()) {
+      const bool sizes = std::string_view(line_end) == ",";
+      // A font size is a line of its own; the rest may share one.
+      const std::string failure = Failure(*file, LayoutText(*file, PlainValue, line_end));
+      bool has_size = false;
+      for (const LayoutField& field : WrittenFields(*file)) {
+        has_size |= field.kind == FieldKind::kFontSize;
+      }
+      EXPECT_EQ(failure.empty(), !sizes || !has_size) << file->name << failure;
+    }
+  }
+}
+
+TEST_F(LayoutReaderTest, ReadsTenMegabytesOfAnythingInNoTime) {
+  const std::string many(10 << 20, 'x');
+  for (const LayoutFile* file : {&SkinFile(), FindLayoutFile("main.ini")}) {
+    EXPECT_EQ(Failure(*file, LayoutText(*file) + many), "");
+  }
+  const LayoutFile& spin = *FindLayoutFile("spin.ini");
+  for (const std::string& bytes : {many, std::string(10 << 20, ','), std::string(10 << 20, '"'),
+                                   std::string(10 << 20, '\0'), std::string(10 << 20, '\n')}) {
+    Failure(spin, bytes);
+    for (const int number : {2, 6, 13}) {
+      Failure(spin, LayoutText(spin, PlainBut(number, bytes)));
+      EXPECT_LE(form.album.tabs[5].caption().size(), 1024u);
+      EXPECT_LE(form.album.tabs[5].font().family.size(), 1024u);
+    }
+  }
+}
+
+// A comma inside a value makes two fields of it, and the rest slips; quotes keep it together.
+TEST_F(LayoutReaderTest, SlipsAtACommaUnlessItIsQuoted) {
+  const LayoutFile& spin = *FindLayoutFile("spin.ini");
+  EXPECT_THAT(Failure(spin, LayoutText(spin, PlainBut(2, "Spin, on this"))), HasSubstr("field 3"));
+  EXPECT_EQ(Failure(spin, LayoutText(spin, PlainBut(2, "\"Spin, on this\" and more"))), "");
+  EXPECT_EQ(form.album.tabs[5].caption(), "Spin, on this");
+}
+
+TEST_F(LayoutReaderTest, EmptiesTheButtonOfAMissingPictureAndNothingElse) {
+  folder.Write("Images/There.bmp", "x");
+  const LayoutFile& spin = *FindLayoutFile("spin.ini");
+  lvButtons_H& tab = form.album.tabs[5];
+  for (const char* shape : {"7", "2"}) {
+    const auto with = [&](const std::string& picture) {
+      return LayoutText(spin, [&](const LayoutField& field) {
+        return field.kind == FieldKind::kPicture ? picture
+               : field.kind == FieldKind::kShape ? shape
+                                                 : PlainValue(field);
+      });
+    };
+    ReadText(spin, with("images\\there.bmp"));
+    EXPECT_EQ(tab.picture(), folder.path() + "\\images\\there.bmp");
+    EXPECT_EQ(std::to_string(tab.shape()), shape);
+    ReadText(spin, with("images\\gone.bmp"));
+    EXPECT_EQ(tab.picture(), "");
+    // A shape that is cut from a picture needs one.
+    EXPECT_EQ(tab.shape(), shape[0] == '7' ? 0 : 2);
+  }
+  const LayoutFile& genre = *FindLayoutFile("genre.ini");
+  ReadText(genre, LayoutText(genre, PlainBut(1, "Images\\There.bmp")));
+  ReadText(genre, LayoutText(genre, PlainBut(1, "")));
+  EXPECT_EQ(form.panel(screen::kGenre).picture(), folder.path() + "\\Images\\There.bmp");
+}
+
+TEST_F(LayoutReaderTest, KeepsTheSizeOfAFontThatHasNone) {
+  const LayoutFile& spin = *FindLayoutFile("spin.ini");
+  const struct {
+    const char* value;
+    const char* family;
+    float points;
+  } kFonts[] = {{"Arial 12", "Arial", 12},
+                {"Arial", "Arial", 12},
+                {"Arial Black", "Arial Black", 12},
+                {"Comic Sans 8.5 ", "Comic Sans", 8.5},
+                {"", "Comic Sans", 8.5},
+                {"Wide 1e9", "Wide", 1000},
+                {"Less -4", "Less", 1}};
+  for (const auto& font : kFonts) {
+    ReadText(spin, LayoutText(spin, PlainBut(6, font.value)));
+    EXPECT_EQ(form.album.tabs[5].font().family, font.family);
+    EXPECT_EQ(form.album.tabs[5].font().points, font.points);
+  }
+}
+
+TEST_F(LayoutReaderTest, KeepsADesktopColourAsItsNumber) {
+  const LayoutFile& spin = *FindLayoutFile("spin.ini");
+  ReadText(spin, LayoutText(spin, PlainBut(8, "-2147483633")));
+  EXPECT_EQ(form.album.tabs[5].cBack(), kButtonFace);
+}
+
+}  // namespace
+}  // namespace sonotik
