@@ -8,8 +8,8 @@
 #include <string>
 #include <vector>
 
+#include "fuzz/tag_bytes.h"
 #include "support/temp_folder.h"
-#include "tags/tag_bytes.h"
 #include "tags/tag_reader.h"
 
 namespace sonotik {

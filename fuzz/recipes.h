@@ -6,17 +6,19 @@
 #include <map>
 #include <string>
 
-#include "tags/tag_bytes.h"
+#include "fuzz/tag_bytes.h"
 #include "text/text.h"
 
 namespace sonotik {
 
 using RecipesOfAParser = std::map<std::string, std::string>;
 
-// By the parser and the recipe's name.
+// By the parser and the recipe's name. One that begins with "fails_" ends in the ordinary failure;
+// all others give fields, be they empty.
 inline std::map<std::string, RecipesOfAParser> Recipes() {
   const std::string song = Latin("Song");
   const std::string most = "\x7F\xFF\xFF\xFF";
+  const std::string over = "\xFF\xFF\xFF\xFF";
   const std::string tail = Id3v1("Old" + Zeros(27) + "Band", Bytes("\0\7\x11"));
   const std::string frame = "\xFF\xFB\x90\x64";
   const std::string wide = Bytes("\1\xFF\xFE") + Wide("Song");
@@ -41,9 +43,12 @@ inline std::map<std::string, RecipesOfAParser> Recipes() {
       {"v24_wrong_inner_length", Tag(4, 0, Frame4("TIT2", Big(900) + song, 3))},
       {"tag_beyond_the_file", "ID3" + Bytes("\3\0\0") + most + texts},
       {"frame_beyond_the_tag", Tag(3, 0, "TIT2" + most + Zeros(30))},
-      {"overflow", Tag(3, 0, "TIT2" + Big(0xFFFFFFFF) + Zeros(9))},
+      {"fails_overflow", Tag(3, 0, "TIT2" + over + Zeros(9))},
+      {"fails_overflow_of_the_tag", "ID3" + Bytes("\3\0\0") + over + Zeros(20)},
+      {"fails_overflow_of_the_extended_header", Tag(3, 0x40, over + Zeros(20))},
+      {"fails_overflow_of_seek", Tag(4, 0, Frame4("SEEK", over))},
       {"empty_frames", Tag(3, 0, Frame3("TIT2", "") + Frame3("COMM", "") + Frame3("SEEK", ""))},
-      {"empty_tag", Tag(3, 0, "")},
+      {"fails_empty_tag", Tag(3, 0, "")},
       {"extended_beyond_the_tag", Tag(4, 0x40, most + Frame4("TIT2", song))},
       {"odd_utf16",
        Tag(3, 0, Frame3("TIT2", Bytes("\1\xFE\xFF\0A\0")) + Frame3("COMM", Bytes("\2en")))},
@@ -62,7 +67,7 @@ inline std::map<std::string, RecipesOfAParser> Recipes() {
       {"info_no_frames", head + "Info" + Big(3) + Big(0) + Big(500000)},
       {"vbri", head + "VBRI" + Zeros(6) + Big(500000) + Big(1000)},
       {"mono_v2", "\xFF\xF3\x40\xC0" + Zeros(9) + "Xing" + Big(3) + Big(9) + Big(9)},
-      {"reserved_rate", "\xFF\xFB\x9C\x64" + Zeros(32) + "Xing" + Big(3) + Big(9) + Big(9)},
+      {"fails_reserved_rate", "\xFF\xFB\x9C\x64" + Zeros(32) + "Xing" + Big(3) + Big(9) + Big(9)},
       {"v25_layer2", "\xFF\xE5\x10\x64" + Zeros(20)},
       {"behind_a_tag", Tag(4, 0x10, "x") + "3DI" + Zeros(7) + frame + tail},
       {"in_the_last_bytes", "x\xFF\xFB\x90"},
@@ -78,30 +83,35 @@ inline std::map<std::string, RecipesOfAParser> Recipes() {
       {"unsync", Tag(3, 0x80, texts) + tail},
       {"picture_without_end", Tag(3, 0, Frame3("APIC", Bytes("\0image/png\0\3Front")))},
       {"lyrics_without_time", Tag(3, 0, Frame3("SYLT", lines.substr(0, 14)))},
-      {"overflow", Tag(3, 0, texts + "APIC" + Big(0xFFFFFFFF) + Zeros(9))},
+      {"overflow", Tag(3, 0, texts + "APIC" + over + Zeros(9))},
       {"v1_only", frame + Zeros(20) + tail},
       {"version_2", "\xFF\xF3\x90\x40" + Zeros(20)}};
 
-  // The fill keeps the header at its 5,000 bytes.
+  // Keeps the header at its 5,000 bytes.
+  const std::string fill(5020, 'x');
   const std::string odd = Wma(Bytes("\x50\0"), {"Song"}).replace(54, 1, "\x0B");
   const RecipesOfAParser wma = {{"names", Wma(Bytes("\x50\0"), {"Song", "Band"})},
                                 {"copyright", Wma("\x50\1", {"Song", "Band", "(c)"})},
                                 {"odd_length", odd},
-                                {"no_pattern", std::string(5020, 'x')},
-                                {"no_lengths", Wma("\x50\1", {})},
-                                {"kbps_at_once", Zeros(10) + "12 kbps" + std::string(5000, 'x')},
-                                {"short", "0123456789" + std::string(40, 'x')}};
+                                {"no_pattern", fill},
+                                {"fails_no_lengths", Wma("\x50\1", {})},
+                                {"fails_kbps_at_once", Zeros(10) + "12 kbps" + fill},
+                                {"fails_khz_at_once", Zeros(10) + "1,00khz" + fill},
+                                {"fails_year_of_no_length", Zeros(10) + "WM/Year\1x" + fill},
+                                {"fails_album_of_no_length", Zeros(10) + "WM/AlbumTitle\1x" + fill},
+                                {"fails_year_at_the_end", fill.substr(0, 5003) + "WM/Year"},
+                                {"fails_short", "0123456789" + std::string(40, 'x')}};
   // Small on purpose: atoms are looked for from 30,000 on, and the fuzzers grow what is needed.
   const std::string atoms = Atom("nam", "Song") + Atom("ART", "Band") + Atom("alb", "Al");
   const RecipesOfAParser mp4 = {{"atoms", M4a(atoms + Atom("day", "2001"))},
                                 {"no_atoms", M4a("", 60)},
-                                {"ends_in_a_value", M4a(atoms.substr(0, 30))},
-                                {"empty", ""}};
+                                {"fails_ends_in_a_value", M4a(atoms.substr(0, 30))},
+                                {"fails_empty", ""}};
   const RecipesOfAParser sidecar = {
       {"whole", kSidecar},
       {"dos", ReplaceAll(kSidecar, "\n", "\r\n")},
-      {"a_line_missing", kSidecar.substr(7)},
-      {"short_line", ReplaceAll(kSidecar, "<year>1984</year>", "<y></y>")}};
+      {"fails_a_line_missing", kSidecar.substr(7)},
+      {"fails_short_line", ReplaceAll(kSidecar, "<year>1984</year>", "<y></y>")}};
   const RecipesOfAParser id3v1 = {{"track", "x" + tail},
                                   {"no_track", Id3v1("Old", "ab\xFF")},
                                   {"short", tail.substr(1)},

@@ -36,4 +36,10 @@ uint32_t BigEndian(std::span<const uint8_t> bytes) {
   return number;
 }
 
+std::string BigEndianBytes(int64_t number, int bits) {
+  std::string bytes;
+  for (int i = 3; i >= 0; --i) bytes += static_cast<char>(number >> (i * bits) & ((1 << bits) - 1));
+  return bytes;
+}
+
 }  // namespace sonotik

@@ -7,6 +7,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <span>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -55,6 +56,9 @@ bool BeginsWith(std::span<const uint8_t> bytes, std::string_view mark);
 
 // An unsigned big-endian number of all the bytes, at most four.
 uint32_t BigEndian(std::span<const uint8_t> bytes);
+
+// The other way, four bytes of 8 bits each, or of 7 as sizes in ID3 tags have them.
+std::string BigEndianBytes(int64_t number, int bits = 8);
 
 }  // namespace sonotik
 

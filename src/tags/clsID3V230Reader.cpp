@@ -1,20 +1,16 @@
 #include "tags/clsID3V230Reader.h"
 
-#include <algorithm>
-#include <filesystem>
 #include <stdexcept>
-#include <system_error>
 #include <vector>
 
 #include "files/files.h"
-#include "files/paths.h"
 #include "files/runtime_failure.h"
 #include "tags/copy_blocks.h"
 #include "tags/mdlID3.h"
 #include "tags/media_file.h"
 #include "tags/picture_frame.h"
+#include "tags/synced_lyrics.h"
 #include "tags/tag_record.h"
-#include "text/dates.h"
 #include "text/numbers.h"
 #include "text/text.h"
 
@@ -59,28 +55,6 @@ std::vector<std::string> SplitAtNuls(const std::string& text) {
 void Join(std::string& list, std::string_view entry, std::string_view separator) {
   if (!list.empty()) list += separator;
   list += entry;
-}
-
-std::string TimeMark(uint32_t milliseconds) {
-  const std::string time = MinutesSeconds(milliseconds / 1000);
-  return "[" + std::string(time.size() < 5 ? "0" : "") + time + "]";
-}
-
-// Language, form of the times, kind of text, a description; then lines, each with its time behind.
-std::string TimedLines(std::string_view text) {
-  constexpr size_t kHead = 5;
-  std::string lines;
-  if (text.size() < kHead) return lines;
-  for (size_t end = text.find('\0', kHead); end != text.npos;) {
-    const size_t from = end + 1;
-    end = text.find('\0', from);
-    if (end == text.npos || text.size() - end < 5) break;
-    const auto* const stamp = reinterpret_cast<const uint8_t*>(text.data()) + end + 1;
-    lines += TimeMark(BigEndian(std::span(stamp, 4)));
-    lines += ReplaceAll(text.substr(from, end - from), "\n", "\r\n");
-    end += 4;
-  }
-  return lines;
 }
 
 }  // namespace
@@ -161,7 +135,7 @@ void clsID3V230Reader::StoreText(std::string_view id, const std::string& text) {
   }
   if (id == "TRCK") return StoreTrack(text);
   if (id == "SYLT") {
-    SyncLyrics += TimedLines(text);
+    SyncLyrics += LinesOfLyrics(text);
     return;
   }
   if (id != "COMM" && id != "WXXX" && id != "USLT") {
@@ -221,24 +195,20 @@ std::string clsID3V230Reader::ExtractGraphic(std::string_view path, int64_t star
   // A kind is part of a file's name, and no tag may choose the folder.
   if (head->kind.find_first_of("/\\") != head->kind.npos) return "";
 
-  const std::string beside = std::string(path) + ".pic";
+  const std::string ending = "." + (head->kind == "jpeg" ? "jpg" : head->kind);
+  int number = 0;
+  std::string name;
+  do {
+    name = std::string(path) + std::to_string(number++) + ending;
+  } while (FileExists(name));
   try {
-    std::ofstream picture = NewFile(beside);
-    CopyBlocks(file, from + static_cast<int64_t>(head->length), from + size, picture, yield_);
-    picture.close();
-    const std::string ending = "." + (head->kind == "jpeg" ? "jpg" : head->kind);
-    int number = 0;
-    std::string name;
-    do {
-      name = std::string(path) + std::to_string(number++) + ending;
-    } while (FileExists(name));
-    std::filesystem::rename(NativePath(beside), NativePath(name));
-    return name;
+    WriteBeside(std::string(path) + ".pic", name, [&](std::ostream& picture) {
+      CopyBlocks(file, from + static_cast<int64_t>(head->length), from + size, picture, yield_);
+    });
   } catch (const std::runtime_error&) {
-    std::error_code error;
-    std::filesystem::remove(NativePath(beside), error);
+    return "";
   }
-  return "";
+  return name;
 }
 
 }  // namespace sonotik

@@ -1,18 +1,16 @@
 #include "tags/clsID3V230Writer.h"
 
-#include <filesystem>
-#include <fstream>
+#include <ostream>
 #include <stdexcept>
 #include <vector>
 
 #include "files/files.h"
-#include "files/paths.h"
 #include "files/runtime_failure.h"
 #include "tags/clsID3V230Reader.h"
 #include "tags/copy_blocks.h"
 #include "tags/media_file.h"
 #include "tags/picture_frame.h"
-#include "tags/tag_record.h"
+#include "tags/synced_lyrics.h"
 #include "text/text.h"
 
 namespace sonotik {
@@ -33,13 +31,7 @@ struct Frame {
 };
 using Frames = std::vector<Frame>;
 
-std::string SizeBytes(int64_t size, int bits) {
-  std::string bytes;
-  for (int i = 3; i >= 0; --i) bytes += static_cast<char>(size >> (i * bits) & ((1 << bits) - 1));
-  return bytes;
-}
-std::string Synchsafe(int64_t size) { return SizeBytes(size, 7); }
-std::string BigEndianBytes(int64_t size) { return SizeBytes(size, 8); }
+std::string Synchsafe(int64_t size) { return BigEndianBytes(size, 7); }
 
 std::vector<std::string> Entries(std::string_view joined) {
   std::vector<std::string> entries;
@@ -53,31 +45,6 @@ std::vector<std::string> Entries(std::string_view joined) {
 
 std::string EntryOrNothing(const std::vector<std::string>& entries, size_t i) {
   return i < entries.size() ? entries[i] : "";
-}
-
-// "[mm:ss]text" gives the text and its time in milliseconds. The line end goes with the text, so
-// that the reader gets the lines back as they were. Lines without a time have no place among them.
-std::string TimedLines(std::string_view lines) {
-  std::string body;
-  while (!lines.empty()) {
-    const size_t end = lines.find("\r\n");
-    const std::string_view line = lines.substr(0, end);
-    lines.remove_prefix(end == lines.npos ? lines.size() : end + 2);
-    const size_t colon = line.find(':');
-    const size_t bracket = line.find(']');
-    if (!line.starts_with('[') || colon == line.npos || bracket == line.npos || bracket < colon) {
-      continue;
-    }
-    const auto minutes = TagNumber(line.substr(1, colon - 1));
-    const auto seconds = TagNumber(line.substr(colon + 1, bracket - colon - 1));
-    if (!minutes || !seconds) continue;
-    const double milliseconds = (*minutes * 60 + *seconds) * 1000;
-    if (milliseconds < 0 || milliseconds > 0xFFFFFFFFu) continue;
-    body += line.substr(bracket + 1);
-    if (!lines.empty()) body += '\n';
-    body += '\0' + BigEndianBytes(static_cast<int64_t>(milliseconds));
-  }
-  return body;
 }
 
 std::string MimeType(const std::string& picture) {
@@ -110,10 +77,7 @@ Frames FramesOf(const clsID3V230Writer& tag) {
   add("TENC", tag.EncodedBy);
   for (const std::string& url : Entries(tag.URL)) add("WXXX", '\0' + url);
   add("USLT", in_language(tag.Lyrics));
-  if (const std::string lines = TimedLines(tag.SyncLyrics); !lines.empty()) {
-    // Times in milliseconds, lyrics, no description.
-    add("SYLT", language + "\2\1" + '\0' + lines);
-  }
+  add("SYLT", TextOfLyrics(tag.SyncLyrics, language));
   const auto pictures = Entries(tag.Graphic);
   const auto types = Entries(tag.GraphicType);
   const auto titles = Entries(tag.GraphicTitle);
@@ -137,24 +101,17 @@ void WriteFrame(const Frame& frame, std::ostream& out, const std::function<void(
   CopyBlocks(picture, 0, frame.picture_size, out, yield);
 }
 
-void Replace(std::string_view old_file, const std::string& new_file) {
-  std::filesystem::rename(NativePath(new_file), NativePath(old_file));
-}
-
 }  // namespace
 
 void clsID3V230Writer::RemoveID3V230Tag(std::string_view path) const {
-  const std::string beside = std::string(path) + ".new";
+  MediaFile file(path);
+  const auto header = file.Read<kHeaderSize>(0);
+  if (!BeginsWith(header, "ID3")) return;
+  const int64_t start = WeighedSize(std::span(header).subspan<6, 4>()) + kHeaderSize;
+  if (start > file.size()) return;
   try {
-    MediaFile file(path);
-    const auto header = file.Read<kHeaderSize>(0);
-    if (!BeginsWith(header, "ID3")) return;
-    const int64_t start = WeighedSize(std::span(header).subspan<6, 4>()) + kHeaderSize;
-    if (start > file.size()) throw RuntimeFailure("a tag claims more than its file");
-    std::ofstream bare = NewFile(beside);
-    CopyBlocks(file, start, file.size(), bare, yield_);
-    bare.close();
-    Replace(path, beside);
+    WriteBeside(std::string(path) + ".new", path,
+                [&](std::ostream& bare) { CopyBlocks(file, start, file.size(), bare, yield_); });
   } catch (const std::runtime_error&) {
     // The file stays as it is.
   }
@@ -162,21 +119,17 @@ void clsID3V230Writer::RemoveID3V230Tag(std::string_view path) const {
 
 void clsID3V230Writer::WriteID3V230Tag(std::string_view path) const {
   RemoveID3V230Tag(path);
-  const std::string beside = std::string(path) + ".mp3";
   try {
     const Frames frames = FramesOf(*this);
     int64_t total = 0;
     for (const Frame& frame : frames) total += kHeaderSize + frame.body_size();
-    if (total == 0) return;
-    if (total > kLargestTag) throw RuntimeFailure("a tag is too large");
     MediaFile file(path);
-    if (!file.open()) return;
-    std::ofstream tagged = NewFile(beside);
-    tagged << "ID3\3" << std::string(2, '\0') << Synchsafe(total);
-    for (const Frame& frame : frames) WriteFrame(frame, tagged, yield_);
-    CopyBlocks(file, 0, file.size(), tagged, yield_);
-    tagged.close();
-    Replace(path, beside);
+    if (total == 0 || total > kLargestTag || !file.open()) return;
+    WriteBeside(std::string(path) + ".mp3", path, [&](std::ostream& tagged) {
+      tagged << "ID3\3" << std::string(2, '\0') << Synchsafe(total);
+      for (const Frame& frame : frames) WriteFrame(frame, tagged, yield_);
+      CopyBlocks(file, 0, file.size(), tagged, yield_);
+    });
   } catch (const std::runtime_error&) {
     // The file stays without a tag: the old one was taken off before.
   }

@@ -3,8 +3,8 @@
 #define SONOTIK_TAGS_COPY_BLOCKS_H_
 
 #include <cstdint>
-#include <fstream>
 #include <functional>
+#include <ostream>
 #include <string_view>
 
 #include "tags/byte_source.h"
@@ -13,9 +13,11 @@ namespace sonotik {
 
 inline constexpr int64_t kCopyBlock = 2097152;
 
-// A new file in the place of any old one. It throws std::runtime_error where it can't be made, and
-// later where it can't be written or closed.
-std::ofstream NewFile(std::string_view path);
+// Has a new file written under the name `beside` and then renamed to `path`, in the place of any
+// file of that name. Throws std::runtime_error where that can't be done, and nothing of the new
+// file is left then.
+void WriteBeside(std::string_view beside, std::string_view path,
+                 const std::function<void(std::ostream&)>& write);
 
 // Writes what there is of the bytes from `from` up to `to`; `yield`, if any, runs behind each
 // block.

@@ -1,5 +1,7 @@
 #include "tags/sidecar.h"
 
+#include <array>
+#include <iterator>
 #include <string_view>
 #include <utility>
 
@@ -36,17 +38,18 @@ constexpr SidecarLine kLines[] = {
 
 void ReadSidecarText(std::string text, TagFields& fields) {
   LineReader reader(std::move(text));
-  for (const SidecarLine& element : kLines) {
-    const std::string line = reader.Next();
-    if (element.front == 0) continue;
-    const std::string_view trimmed = TrimBlanks(line);
-    const size_t wrapping = element.front + element.front + 1;
+  std::array<std::string, std::size(kLines)> lines;
+  for (std::string& line : lines) line = reader.Next();
+
+  for (size_t i = 0; i < lines.size(); ++i) {
+    const auto& [front, field] = kLines[i];
+    if (front == 0) continue;
+    const std::string_view trimmed = TrimBlanks(lines[i]);
+    const size_t wrapping = front + front + 1;
     if (trimmed.size() < wrapping) {
-      throw RuntimeFailure("a line of a sidecar is too short: " + line.substr(0, 40));
+      throw RuntimeFailure("a line of a sidecar is too short: " + lines[i].substr(0, 40));
     }
-    if (element.field) {
-      fields.*element.field = trimmed.substr(element.front, trimmed.size() - wrapping);
-    }
+    if (field) fields.*field = trimmed.substr(front, trimmed.size() - wrapping);
   }
 }
 

@@ -10,8 +10,8 @@ namespace sonotik {
 
 // Sets the fields line by line. An element's wrapping goes by its length; its name isn't looked at.
 // Original artist, copyright, URL and encoder keep what they hold. Throws RuntimeFailure for a text
-// of fewer lines and for a line shorter than its wrapping; the fields of the lines before are set
-// then.
+// of fewer lines, before any field is set, and for a line shorter than its wrapping, when the
+// fields of the lines before are.
 void ReadSidecarText(std::string text, TagFields& fields);
 
 }  // namespace sonotik

@@ -1,14 +1,13 @@
-// Recipes for the bytes of tags, and a folder to put files in.
-#ifndef SONOTIK_TESTS_TAGS_TAG_BYTES_H_
-#define SONOTIK_TESTS_TAGS_TAG_BYTES_H_
+// Recipes for the bytes of tags, out of which the fuzzers, the tests and the benchmarks make their
+// files.
+#ifndef SONOTIK_FUZZ_TAG_BYTES_H_
+#define SONOTIK_FUZZ_TAG_BYTES_H_
 
-#include <filesystem>
+#include <cstdint>
 #include <span>
 #include <string>
 #include <string_view>
 #include <vector>
-
-#include "support/temp_folder.h"
 
 namespace sonotik {
 
@@ -77,23 +76,6 @@ inline std::span<const uint8_t> AsBytes(std::string_view text) {
   return {reinterpret_cast<const uint8_t*>(text.data()), text.size()};
 }
 
-// A row of a table: what it is about, a whole file, and what is to be read of it.
-struct Row {
-  const char* what;
-  std::string file;
-  std::string expected;
-};
-
-class Scratch : public TempFolder {
- public:
-  std::filesystem::path Native(const std::string& name) const { return native() / name; }
-  std::string Path(const std::string& name) const { return ProgramPath(Native(name)); }
-  std::string Put(const std::string& name, std::string_view bytes) const {
-    Write(name, bytes);
-    return Path(name);
-  }
-};
-
 }  // namespace sonotik
 
-#endif  // SONOTIK_TESTS_TAGS_TAG_BYTES_H_
+#endif  // SONOTIK_FUZZ_TAG_BYTES_H_
