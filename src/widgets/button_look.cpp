@@ -207,8 +207,6 @@ void Painting::PaintContents() {
   if (!p_.enabled) style.color = Mix(style.color, plate, 160);
   Rect room = ShapeInside(p_.shape, look_.inner).Inset(kMargin);
   if (p_.back_style == back_style::kBezel) room = room.Inset(frame_ - 1);
-  // What is pressed moves; an ellipse's only down, or its caption would seem to slip off.
-  if (look_.held) room = room.MovedBy(p_.shape == shape::kEllipse ? 0 : 1, 1);
   // What stands at an edge keeps off its corners.
   if (p_.cap_align != 2 || !p_.image.empty()) {
     room = {room.left + 4, room.top, room.width - 8, room.height};
@@ -247,6 +245,9 @@ void Painting::PaintContents() {
     }
   }
   if (!p_.enabled && !p_.image.empty()) canvas_.FillPolygon(At(1), {back_, 120});
+  // The caption of a held button moves; in a shape that narrows towards its ends only down, or it
+  // would seem to slip off.
+  if (look_.held) caption = caption.MovedBy(p_.shape >= shape::kEllipse ? 0 : 1, 1);
   if (!text.empty()) PaintCaption(caption, style, text);
 }
 

@@ -25,6 +25,25 @@ class OneRedPixel : public PictureSource {
   std::optional<std::string> Bytes(const std::string&) override { return std::nullopt; }
 };
 
+// Remembers where the last text stood.
+class TextPlace : public Canvas {
+ public:
+  Rect text;
+
+  void Push(const Rect&) override {}
+  void Pop() override {}
+  Rect Visible() const override { return {}; }
+  void FillRect(const Rect&, Color, float) override {}
+  void FillGradient(const Rect&, Color, Color, float) override {}
+  void DrawRect(const Rect&, Color, float, float) override {}
+  void FillPolygon(std::span<const Point>, const Brush&) override {}
+  void DrawPolygon(std::span<const Point>, const Brush&, float) override {}
+  void DrawPicture(const std::string&, const Rect&, PictureFit) override {}
+  void DrawPixels(const PixelSurface&, const Rect&) override {}
+  void DrawText(const std::string&, const Rect& rect, const TextStyle&) override { text = rect; }
+  Rect MeasureText(const std::string&, const TextStyle&, float) override { return {0, 0, 9, 9}; }
+};
+
 // Three buttons beside each other on a panel, and what they tell.
 struct Keypad {
   OneRedPixel pictures;
@@ -309,6 +328,23 @@ TEST(Buttons, ShapesTakeThePressOnlyWhereTheyAre) {
     EXPECT_EQ(hit(2, 20), c.left_middle) << c.shape;
     EXPECT_EQ(hit(88, 2), c.right_top) << c.shape;
     EXPECT_EQ(hit(88, 38), c.right_bottom) << c.shape;
+  }
+}
+
+TEST(Buttons, HeldOnesMoveTheirTextAndFromTheEllipseOnOnlyDown) {
+  for (int shape = 0; shape <= 8; ++shape) {
+    Keypad k;
+    lvButtons_H& button = k.buttons[0];
+    button.SetImage("star.bmp");
+    button.SetShape(shape);
+    button.SetCaption("Play");
+    TextPlace canvas;
+    button.Paint(canvas);
+    const Rect idle = canvas.text;
+    k.form.PressMouse({60, 25});
+    ASSERT_TRUE(button.held()) << shape;
+    button.Paint(canvas);
+    EXPECT_EQ(canvas.text, idle.MovedBy(shape < 4 ? 1 : 0, 1)) << shape;
   }
 }
 
