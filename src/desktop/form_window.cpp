@@ -2,14 +2,20 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QDropEvent>
+#include <QFile>
 #include <QKeyEvent>
+#include <QMimeData>
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
+#include <QUrl>
 #include <algorithm>
+#include <array>
 
 #include "desktop/painter_canvas.h"
 #include "desktop/text_decoding.h"
+#include "files/paths.h"
 
 namespace sonotik {
 namespace {
@@ -18,6 +24,37 @@ MouseButton ButtonOf(const QMouseEvent& event) {
   if (event.button() == Qt::RightButton) return MouseButton::kRight;
   if (event.button() == Qt::MiddleButton) return MouseButton::kMiddle;
   return MouseButton::kLeft;
+}
+
+// Pointers by their numbers.
+constexpr std::array kPointers = {
+    Qt::ArrowCursor,     Qt::ArrowCursor,   Qt::CrossCursor,     Qt::IBeamCursor,
+    Qt::ArrowCursor,     Qt::SizeAllCursor, Qt::SizeBDiagCursor, Qt::SizeVerCursor,
+    Qt::SizeFDiagCursor, Qt::SizeHorCursor, Qt::UpArrowCursor,   Qt::WaitCursor,
+    Qt::ForbiddenCursor, Qt::BusyCursor,    Qt::WhatsThisCursor, Qt::SizeAllCursor};
+// A picture as a pointer is no longer than this.
+constexpr int kMostPointerSide = 64;
+
+DragData DataOf(const QMimeData& mime) {
+  DragData data;
+  for (const QUrl& url : mime.urls()) {
+    if (!url.isLocalFile()) continue;
+    data.files.push_back(ProgramPath(QFile::encodeName(url.toLocalFile()).toStdString()));
+  }
+  data.text = mime.text().toStdString();
+  return data;
+}
+
+DropEffect EffectOf(Qt::DropAction action) {
+  if (action == Qt::CopyAction) return DropEffect::kCopy;
+  return action == Qt::MoveAction ? DropEffect::kMove : DropEffect::kNone;
+}
+
+void Answer(QDropEvent& event, DropEffect effect) {
+  event.setDropAction(effect == DropEffect::kMove   ? Qt::MoveAction
+                      : effect == DropEffect::kCopy ? Qt::CopyAction
+                                                    : Qt::IgnoreAction);
+  event.setAccepted(effect != DropEffect::kNone);
 }
 
 // The number by which the controls know a key: letters and digits are themselves.
@@ -48,6 +85,7 @@ int KeyOf(const QKeyEvent& event) {
 FormWindow::FormWindow(Form& form, PictureCache& pictures) : form_(form), pictures_(pictures) {
   setAttribute(Qt::WA_OpaquePaintEvent);
   setMouseTracking(true);
+  setAcceptDrops(true);
   setWindowTitle(Decode(form.title()));
   resize(static_cast<int>(form.place().width), static_cast<int>(form.place().height));
   form_.on_dirty = [this] { UpdateDirty(); };
@@ -72,6 +110,27 @@ void FormWindow::TestHover() {
     form_.LeaveMouse();
   }
   if (!form_.hovering()) hover_test_.stop();
+  ShowPointer();
+}
+
+void FormWindow::ShowPointer() {
+  const MouseShape wanted = form_.PointerShape();
+  if (wanted == pointer_ || cursor().shape() == Qt::BlankCursor) return;
+  pointer_ = wanted;
+  setCursor(CursorFor(wanted));
+}
+
+QCursor FormWindow::CursorFor(const MouseShape& shape) {
+  if (shape.pointer == MouseShape::kIcon) {
+    if (const auto icon = pictures_.Pixels(shape.icon, kMostPointerSide)) {
+      const QImage image(icon->bytes.data(), icon->width, icon->height, icon->stride,
+                         QImage::Format_ARGB32_Premultiplied);
+      // It points with its top left corner.
+      return QCursor(QPixmap::fromImage(image), 0, 0);
+    }
+  }
+  const auto number = static_cast<size_t>(shape.pointer);
+  return number < kPointers.size() ? kPointers[number] : kPointers[0];
 }
 
 double FormWindow::Scale() const {
@@ -125,14 +184,17 @@ void FormWindow::paintEvent(QPaintEvent* event) {
 
 void FormWindow::mousePressEvent(QMouseEvent* event) {
   form_.PressMouse(FormPoint(event->position()), ButtonOf(*event));
+  ShowPointer();
 }
 
 void FormWindow::mouseMoveEvent(QMouseEvent* event) {
   form_.MoveMouse(FormPoint(event->position()));
+  ShowPointer();
 }
 
 void FormWindow::mouseReleaseEvent(QMouseEvent* event) {
   form_.ReleaseMouse(FormPoint(event->position()), ButtonOf(*event));
+  ShowPointer();
 }
 
 void FormWindow::mouseDoubleClickEvent(QMouseEvent* event) {
@@ -140,6 +202,21 @@ void FormWindow::mouseDoubleClickEvent(QMouseEvent* event) {
 }
 
 void FormWindow::leaveEvent(QEvent*) { form_.LeaveMouse(); }
+
+// An enter is followed by a move in the same place, which asks the control.
+void FormWindow::dragEnterEvent(QDragEnterEvent* event) { event->accept(); }
+
+void FormWindow::dragMoveEvent(QDragMoveEvent* event) {
+  Answer(*event, form_.DragMouse(FormPoint(event->position()), DataOf(*event->mimeData()),
+                                 EffectOf(event->proposedAction())));
+}
+
+void FormWindow::dragLeaveEvent(QDragLeaveEvent*) { form_.LeaveDrag(); }
+
+void FormWindow::dropEvent(QDropEvent* event) {
+  Answer(*event, form_.DropMouse(FormPoint(event->position()), DataOf(*event->mimeData()),
+                                 EffectOf(event->proposedAction())));
+}
 
 void FormWindow::keyPressEvent(QKeyEvent* event) {
   const int key = KeyOf(*event);

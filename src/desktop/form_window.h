@@ -30,6 +30,10 @@ class FormWindow : public QWidget {
   void mouseReleaseEvent(QMouseEvent* event) override;
   void mouseDoubleClickEvent(QMouseEvent* event) override;
   void leaveEvent(QEvent* event) override;
+  void dragEnterEvent(QDragEnterEvent* event) override;
+  void dragMoveEvent(QDragMoveEvent* event) override;
+  void dragLeaveEvent(QDragLeaveEvent* event) override;
+  void dropEvent(QDropEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void keyReleaseEvent(QKeyEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
@@ -40,11 +44,15 @@ class FormWindow : public QWidget {
   Point FormPoint(const QPointF& at) const;
   void UpdateDirty();
   void TestHover();
+  // The pointer that the control under the mouse wants, unless pointers are hidden altogether.
+  void ShowPointer();
+  QCursor CursorFor(const MouseShape& shape);
 
   Form& form_;
   PictureCache& pictures_;
   QTimer hover_test_;  // runs only while the mouse is over a control
   int paints_ = 0;
+  MouseShape pointer_;  // the one that shows
 };
 
 }  // namespace sonotik

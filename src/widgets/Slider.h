@@ -70,6 +70,7 @@ class Slider : public Control {
   void SetBarOver(std::string path) { Change(p_.bar_over, std::move(path)); }
   const std::string& bar_down() const { return p_.bar_down; }
   void SetBarDown(std::string path) { Change(p_.bar_down, std::move(path)); }
+  // The mouse pointer over the slider, if there is such a picture.
   const std::string& mouse_icon() const { return p_.mouse_icon; }
   void SetMouseIcon(std::string path) { p_.mouse_icon = std::move(path); }
   Color back_color() const { return p_.back_color; }
@@ -94,6 +95,9 @@ class Slider : public Control {
   void MouseMove(const MouseEvent& event) override;
   void MouseUp(const MouseEvent& event, bool inside) override;
   bool ShowsHover() const override { return true; }
+  MouseShape mouse_shape() const override {
+    return {p_.mouse_icon.empty() ? 0 : MouseShape::kIcon, p_.mouse_icon};
+  }
   void MouseEnter() override { Change(over_, true); }
   void MouseLeave() override { Change(over_, false); }
   void Paint(Canvas& canvas) const override;

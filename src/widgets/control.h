@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "widgets/canvas.h"
+#include "widgets/drag.h"
 #include "widgets/geometry.h"
 #include "widgets/region.h"
 
@@ -39,6 +40,14 @@ inline constexpr int kUp = 38;
 inline constexpr int kRight = 39;
 inline constexpr int kDown = 40;
 }  // namespace key
+
+// How the mouse pointer looks over a control.
+struct MouseShape {
+  static constexpr int kIcon = 99;
+  int pointer = 0;   // 0 is the desktop's own, kIcon the picture; 1 to 15 as windows number them
+  std::string icon;  // a picture file
+  bool operator==(const MouseShape&) const = default;
+};
 
 // A key that a control hands on to the panel around it.
 struct KeyMessage {
@@ -99,6 +108,10 @@ class Control {
   virtual void MouseLeave() {}
   // False if the second tap is to count as one more press.
   virtual bool DoubleClick();
+  virtual MouseShape mouse_shape() const { return {}; }
+  // Something is dragged over it, or dropped on it.
+  virtual void DragOver(DragEvent&) {}
+  virtual void DragDrop(DragEvent&) {}
 
   // The keyboard belongs to one control at a time, if it wants it.
   virtual bool TakesFocus() const { return false; }
@@ -189,6 +202,14 @@ class Form : public Panel {
   void LeaveMouse();
   // Down and up in one place.
   void Click(Point at);
+  // Of the control that has the mouse.
+  MouseShape PointerShape() const;
+
+  // Something from elsewhere comes over the form, goes again or is dropped. They give what a drop
+  // would do or has done.
+  DropEffect DragMouse(Point at, const DragData& data, DropEffect proposed);
+  void LeaveDrag();
+  DropEffect DropMouse(Point at, const DragData& data, DropEffect proposed);
 
   // While the mouse is over a control that shows it, the window asks every kHoverTestMs with the
   // mouse's place: a control that went away from under it, or that it left without a word, is left
@@ -238,6 +259,7 @@ class Form : public Panel {
   Control* pressed_ = nullptr;  // the last one
   Control* hovered_ = nullptr;
   Control* focus_ = nullptr;
+  Control* dragged_over_ = nullptr;
   std::vector<std::pair<Panel*, KeyMessage>> posted_;
   std::vector<Rect> dirty_;
 };

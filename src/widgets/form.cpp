@@ -8,6 +8,12 @@ namespace {
 // More dirty places than this are painted as one that holds them all.
 constexpr size_t kMostDirtyRects = 16;
 
+// A place on the form in the control's own coordinates.
+Point Within(const Control& control, Point at) {
+  const Rect place = control.AbsolutePlace();
+  return {at.x - place.left, at.y - place.top};
+}
+
 }  // namespace
 
 void Form::PressMouse(Point at, MouseButton button) {
@@ -16,8 +22,7 @@ void Form::PressMouse(Point at, MouseButton button) {
   captured_ = pressed_ = hovered_;
   if (captured_ == nullptr) return;
   if (captured_->TakesFocus()) SetFocus(captured_);
-  const Rect place = captured_->AbsolutePlace();
-  captured_->MouseDown({{at.x - place.left, at.y - place.top}, button});
+  captured_->MouseDown({Within(*captured_, at), button});
 }
 
 void Form::MoveMouse(Point at) {
@@ -25,17 +30,15 @@ void Form::MoveMouse(Point at) {
   // A control that is held sees all of the mouse, and nothing else lights up meanwhile.
   Hover(captured_ == nullptr || captured_ == under ? under : nullptr);
   Control* const target = captured_ != nullptr ? captured_ : under;
-  if (target == nullptr) return;
-  const Rect place = target->AbsolutePlace();
-  target->MouseMove({{at.x - place.left, at.y - place.top}, MouseButton::kLeft});
+  if (target != nullptr) target->MouseMove({Within(*target, at), MouseButton::kLeft});
 }
 
 void Form::ReleaseMouse(Point at, MouseButton button) {
   Control* const target = std::exchange(captured_, nullptr);
   if (target == nullptr) return;
-  const Rect place = target->AbsolutePlace();
-  const Point inner{at.x - place.left, at.y - place.top};
-  const bool inside = target->showing() && place.Contains(at) && target->Covers(inner);
+  const Point inner = Within(*target, at);
+  const bool inside =
+      target->showing() && target->AbsolutePlace().Contains(at) && target->Covers(inner);
   target->MouseUp({inner, button}, inside);
   // The handler may have put another screen under the finger.
   Hover(HitTest(at));
@@ -57,6 +60,39 @@ void Form::TestHover(Point at) {
 void Form::Click(Point at) {
   PressMouse(at);
   ReleaseMouse(at);
+}
+
+MouseShape Form::PointerShape() const {
+  const Control* const control = captured_ != nullptr ? captured_ : hovered_;
+  return control != nullptr ? control->mouse_shape() : MouseShape();
+}
+
+DropEffect Form::DragMouse(Point at, const DragData& data, DropEffect proposed) {
+  Control* const under = HitTest(at);
+  const bool same = under == dragged_over_;
+  if (!same) LeaveDrag();
+  dragged_over_ = under;
+  if (under == nullptr) return DropEffect::kNone;
+  DragEvent event{data, Within(*under, at), same ? DragState::kOver : DragState::kEnter, proposed};
+  under->DragOver(event);
+  return event.effect;
+}
+
+void Form::LeaveDrag() {
+  Control* const left = std::exchange(dragged_over_, nullptr);
+  if (left == nullptr) return;
+  const DragData nothing;
+  DragEvent event{nothing, {}, DragState::kLeave};
+  left->DragOver(event);
+}
+
+DropEffect Form::DropMouse(Point at, const DragData& data, DropEffect proposed) {
+  dragged_over_ = nullptr;
+  Control* const under = HitTest(at);
+  if (under == nullptr) return DropEffect::kNone;
+  DragEvent event{data, Within(*under, at), DragState::kOver, proposed};
+  under->DragDrop(event);
+  return event.effect;
 }
 
 void Form::Hover(Control* control) {
@@ -124,6 +160,7 @@ void Form::Forget(const Control* control) {
   if (pressed_ == control) pressed_ = nullptr;
   if (hovered_ == control) hovered_ = nullptr;
   if (focus_ == control) focus_ = nullptr;
+  if (dragged_over_ == control) dragged_over_ = nullptr;
   std::erase_if(posted_, [&](const auto& post) { return post.first == control; });
 }
 

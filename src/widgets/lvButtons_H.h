@@ -64,6 +64,7 @@ class lvButtons_H : public Control {
   void SetEnabled(bool enabled);
   int cap_style() const { return p_.cap_style; }
   void SetCapStyle(int style) { SetNumber(&ButtonProperties::cap_style, style, 2); }
+  // The picture shows where the pointer is MouseShape::kIcon.
   const std::string& mouse_icon() const { return p_.mouse_icon; }
   void SetMouseIcon(std::string path) { p_.mouse_icon = std::move(path); }
   int mouse_pointer() const { return p_.mouse_pointer; }
@@ -98,6 +99,10 @@ class lvButtons_H : public Control {
   std::function<void(int& key)> on_key_up;
   // The mouse has come or gone.
   std::function<void(bool over)> on_mouse_on_button;
+  // Something from elsewhere is dragged over the button, or dropped on it. Nothing is ever dragged
+  // away from a button.
+  std::function<void(DragEvent&)> on_drag_over;
+  std::function<void(DragEvent&)> on_drag_drop;
 
   bool held() const { return held_ != Held::kNot; }
   bool hovered() const { return over_; }
@@ -111,6 +116,9 @@ class lvButtons_H : public Control {
   void MouseEnter() override;
   void MouseLeave() override;
   bool DoubleClick() override;
+  MouseShape mouse_shape() const override { return {p_.mouse_pointer, p_.mouse_icon}; }
+  void DragOver(DragEvent& event) override;
+  void DragDrop(DragEvent& event) override;
   bool TakesFocus() const override { return p_.enabled; }
   void KeyDown(int key) override;
   void KeyPress(int character) override;

@@ -55,6 +55,14 @@ void lvButtons_H::MouseLeave() {
   if (Change(over_, false) && on_mouse_on_button) on_mouse_on_button(false);
 }
 
+void lvButtons_H::DragOver(DragEvent& event) {
+  if (p_.enabled && on_drag_over) on_drag_over(event);
+}
+
+void lvButtons_H::DragDrop(DragEvent& event) {
+  if (p_.enabled && on_drag_drop) on_drag_drop(event);
+}
+
 void lvButtons_H::KeyDown(int key) {
   if (!p_.enabled) return;
   if (IsArrow(key)) {

@@ -87,6 +87,11 @@ class ucAniGIF : public Control {
   void SetDelayAnimation(int delay);
   bool enabled() const { return p_.enabled; }
   void SetEnabled(bool enabled) { p_.enabled = enabled; }
+  // The picture shows where the pointer is MouseShape::kIcon.
+  const std::string& mouse_icon() const { return p_.mouse_icon; }
+  void SetMouseIcon(std::string path) { p_.mouse_icon = std::move(path); }
+  int mouse_pointer() const { return p_.mouse_pointer; }
+  void SetMousePointer(int pointer) { p_.mouse_pointer = pointer; }
   int offset_x() const { return p_.offset_x; }
   int offset_y() const { return p_.offset_y; }
   void SetOffset(int x, int y);
@@ -110,6 +115,7 @@ class ucAniGIF : public Control {
   const PixelSurface& picture() const { return p_.mirrored != 0 ? mirrored_ : composed_; }
 
   bool TakesMouse() const override { return p_.enabled && Control::TakesMouse(); }
+  MouseShape mouse_shape() const override { return {p_.mouse_pointer, p_.mouse_icon}; }
   void ShowingChanged() override;
   void Paint(Canvas& canvas) const override;
 

@@ -1,10 +1,13 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QDropEvent>
 #include <QFontInfo>
 #include <QImage>
+#include <QMimeData>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QUrl>
 
 #include "desktop/form_window.h"
 #include "desktop/painter_canvas.h"
@@ -107,6 +110,65 @@ TEST_F(WindowTest, PaintsASkinWhoseNumbersMakeNoSense) {
       form().ShowScreen(i);
       EXPECT_FALSE(window->grab().isNull()) << number;
     }
+  }
+}
+
+class BareWindow : public testing::Test {
+ protected:
+  BareWindow() {
+    form.SetPlace({0, 0, 200, 100});
+    form.Add(button, {0, 0, 100, 100});
+    window = std::make_unique<FormWindow>(form, pictures);
+    window->show();
+  }
+  Qt::CursorShape PointerAt(const QPointF& at) {
+    QMouseEvent event(QEvent::MouseMove, at, at, Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(window.get(), &event);
+    return window->cursor().shape();
+  }
+
+  const TempFolder folder;
+  PictureCache pictures;
+  Form form;
+  lvButtons_H button;
+  std::unique_ptr<FormWindow> window;
+};
+
+TEST_F(BareWindow, ShowsThePointerOfTheControlUnderTheMouse) {
+  button.SetMousePointer(11);
+  EXPECT_EQ(PointerAt({50, 50}), Qt::WaitCursor);
+  EXPECT_EQ(PointerAt({150, 50}), Qt::ArrowCursor);
+  QImage icon(8, 8, QImage::Format_RGB32);
+  icon.fill(Qt::red);
+  ASSERT_TRUE(icon.save(QString::fromStdString((folder.native() / "hand.png").string())));
+  button.SetMousePointer(MouseShape::kIcon);
+  button.SetMouseIcon(folder.path() + "\\hand.png");
+  EXPECT_EQ(PointerAt({50, 50}), Qt::BitmapCursor);
+  button.SetMouseIcon(folder.path() + "\\none.png");
+  EXPECT_EQ(PointerAt({51, 50}), Qt::ArrowCursor) << "a picture that isn't there";
+  button.SetMousePointer(-7);
+  EXPECT_EQ(PointerAt({52, 50}), Qt::ArrowCursor);
+  window->setCursor(Qt::BlankCursor);
+  button.SetMousePointer(2);
+  EXPECT_EQ(PointerAt({53, 50}), Qt::BlankCursor) << "pointers are hidden";
+}
+
+TEST_F(BareWindow, HandsInWhatIsDropped) {
+  QMimeData mime;
+  mime.setUrls({QUrl::fromLocalFile("/music/a b.mp3"), QUrl("http://x/y")});
+  std::vector<std::string> files;
+  button.on_drag_drop = [&](DragEvent& event) {
+    files = event.data.files;
+    event.effect = event.proposed;
+  };
+  for (const auto& [x, taken] : {std::pair{150, false}, {50, true}}) {
+    const Qt::DropActions offered = Qt::CopyAction | Qt::MoveAction;
+    QDragEnterEvent enter({x, 50}, offered, &mime, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(window.get(), &enter);
+    QDropEvent drop(QPointF(x, 50), offered, &mime, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(window.get(), &drop);
+    EXPECT_EQ(drop.isAccepted(), taken);
+    EXPECT_EQ(files, std::vector<std::string>(taken ? 1 : 0, "\\music\\a b.mp3"));
   }
 }
 

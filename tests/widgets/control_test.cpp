@@ -126,6 +126,33 @@ TEST(Controls, AHeldControlLightsUpOnlyWhileTheFingerIsOnIt) {
   EXPECT_TRUE(screen.button.hovered());
 }
 
+TEST(Controls, WhatIsDraggedEntersMovesLeavesAndDrops) {
+  Screen screen;
+  std::string told;
+  const auto tell = [&](DragEvent& event) {
+    constexpr const char* kStates[] = {"in", "out", "over"};
+    told += std::string(kStates[static_cast<int>(event.state)]) + " " + event.data.text + "; ";
+    event.effect = event.proposed;
+  };
+  screen.button.on_drag_over = tell;
+  const DragData data{{}, "song"};
+  const auto copy = DropEffect::kCopy;
+  EXPECT_EQ(screen.form.DragMouse({150, 90}, data, copy), DropEffect::kNone);
+  EXPECT_EQ(screen.form.DragMouse({35, 35}, data, copy), copy);
+  screen.form.DragMouse({36, 35}, data, copy);
+  screen.form.DragMouse({150, 90}, data, copy);
+  screen.form.DragMouse({35, 35}, data, copy);
+  screen.form.LeaveDrag();
+  EXPECT_EQ(told, "in song; over song; out ; in song; out ; ");
+  EXPECT_EQ(screen.form.DropMouse({35, 35}, data, copy), DropEffect::kNone) << "nobody takes it";
+  Point dropped;
+  screen.button.on_drag_drop = [&](DragEvent& event) { dropped = event.at; };
+  screen.form.DropMouse({35, 37}, data, copy);
+  EXPECT_EQ(dropped.x * 100 + dropped.y, 507);
+  screen.button.SetEnabled(false);
+  EXPECT_EQ(screen.form.DragMouse({35, 35}, data, copy), DropEffect::kNone);
+}
+
 TEST(Labels, ShowDoubledAmpersandsOnceAndNoAccessMarks) {
   EXPECT_EQ(CaptionAsShown("Rock && Roll"), "Rock & Roll");
   EXPECT_EQ(CaptionAsShown("&Play"), "Play");
