@@ -186,6 +186,7 @@ void lvButtons_H::ReadFrom(const PropertyBag& bag) {
   ReadProperties(kButtonProperties, p_, bag);
   if (!bag.Read("cBHover")) p_.c_back_hover = p_.c_back;
   p_.img_size -= p_.img_size % 8;
+  if (p_.img_align >= image_align::kTop) p_.cap_align = 2;
   if (custom() && (p_.image.empty() || IsIcon(p_.image))) p_.shape = shape::kRectangle;
   FindAccessKey();
   if (p_.value) TurnOthersOff();

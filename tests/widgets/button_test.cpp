@@ -406,9 +406,12 @@ TEST(Buttons, AreStoredByKeyAndReadWithDefaults) {
     odd.Write(key, "99");
   }
   odd.Write("Font", "Sans|big");
+  odd.Write("ImgAlign", "4");
+  odd.Write("CapAlign", "0");
   odd.Write("cBack", "255");
   odd.Write("Enabled", "perhaps");
   same.ReadFrom(odd);
+  EXPECT_EQ(same.cap_align(), 2) << "a picture above the caption centres it";
   EXPECT_EQ(same.cBHover(), 255U);
   EXPECT_EQ(same.cFore(), kButtonText);
   EXPECT_EQ(same.font(), Font());
