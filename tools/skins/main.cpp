@@ -1,0 +1,45 @@
+// Draws the skins that are delivered: sonotik-skins FOLDER makes FOLDER/Neon and FOLDER/Classic.
+#include <QGuiApplication>
+#include <QLoggingCategory>
+#include <cstdio>
+#include <exception>
+
+#include "tools/skins/screens.h"
+
+namespace sonotik::skins {
+namespace {
+
+void Make(const Design& design, const QString& folder) {
+  Sheet sheet(design, folder + "/" + design.name);
+  LayOutFrame(sheet);
+  LayOutLists(sheet);
+  LayOutSearch(sheet);
+  LayOutDecades(sheet);
+  LayOutOthers(sheet);
+  WriteCoverPages(sheet);
+  PaintPreview(sheet);
+  sheet.WriteFiles();
+}
+
+}  // namespace
+}  // namespace sonotik::skins
+
+int main(int argc, char** argv) {
+  // It paints, but shows nothing, and so runs on machines without a screen.
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  QLoggingCategory::setFilterRules("default.warning=false");  // of Qt's own, about missing desktops
+  const QGuiApplication application(argc, argv);
+  if (argc != 2) {
+    std::fprintf(stderr, "usage: sonotik-skins FOLDER\n");
+    return 2;
+  }
+  try {
+    for (const auto* design : {&sonotik::skins::Neon(), &sonotik::skins::Classic()}) {
+      sonotik::skins::Make(*design, QString::fromLocal8Bit(argv[1]));
+    }
+    return 0;
+  } catch (const std::exception& failure) {
+    std::fprintf(stderr, "sonotik-skins: %s\n", failure.what());
+    return 1;
+  }
+}
