@@ -45,13 +45,21 @@ bool Catalogue::HasTrackFile() const {
 }
 
 const AlbumRecord& Catalogue::ReadAlbumRecord(RecordFile& file, int64_t n) {
+  record_count_ = file.count();
   file.Read(n, album_.bytes);
   return album_;
 }
 
 const TrackRecord& Catalogue::ReadTrackRecord(RecordFile& file, int64_t n) {
+  record_count_ = file.count();
   file.Read(n, track_.bytes);
   return track_;
+}
+
+const HistoryRecord& Catalogue::ReadHistoryRecord(RecordFile& file, int64_t n) {
+  record_count_ = file.count();
+  file.Read(n, history_.bytes);
+  return history_;
 }
 
 }  // namespace sonotik

@@ -48,11 +48,16 @@ class Catalogue {
   // it at once, and a record past the end of its file leaves it untouched.
   const AlbumRecord& ReadAlbumRecord(RecordFile& file, int64_t n);
   const TrackRecord& ReadTrackRecord(RecordFile& file, int64_t n);
+  const HistoryRecord& ReadHistoryRecord(RecordFile& file, int64_t n);
+  // The count of records of the file that was read last, whichever that was; 0 before the first.
+  int64_t record_count() const { return record_count_; }
 
  private:
   const std::string& app_path_;
   AlbumRecord album_;
   TrackRecord track_;
+  HistoryRecord history_;
+  int64_t record_count_ = 0;
 };
 
 }  // namespace sonotik

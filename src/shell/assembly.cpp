@@ -33,7 +33,7 @@ Assembly::Assembly(std::string path, Machine& ports)
       track_list(app_path, settings, catalogue, cursor, cover_layout, covers, pages, animation,
                  tags, fields, form1),
       play_options(settings, cursor, covers, credits, tags, fields, form1),
-      history(app_path, ports.clock, fields),
+      history(app_path, ports.clock, catalogue, fields),
       facts(app_path, log),
       engine(ports.player, ports.events, settings, form1.now_playing.video),
       queue(app_path, ports.random, tags, fields),
