@@ -9,6 +9,7 @@
 #include <span>
 #include <string>
 
+#include "catalogue/chart_file.h"
 #include "files/runtime_failure.h"
 #include "tags/Infotag.h"
 #include "tags/clsID3V111Reader.h"
@@ -21,6 +22,7 @@
 #include "tags/mpeg_info.h"
 #include "tags/picture_frame.h"
 #include "tags/sidecar.h"
+#include "text/text.h"
 
 namespace sonotik {
 
@@ -88,14 +90,25 @@ inline void ParseSidecar(std::span<const uint8_t> bytes) {
   ReadSidecarText(std::string(bytes.begin(), bytes.end()), fields);
 }
 
+// As a plain chart and then as a resolved one; each line's key fits its own names.
+inline void ParseChart(std::span<const uint8_t> bytes) {
+  for (const ChartKind kind : {ChartKind::kPlain, ChartKind::kResolved}) {
+    FieldReader reader(std::string(bytes.begin(), bytes.end()));
+    for (int i = 0; i < kChartLines; ++i) {
+      const ChartLine line = ReadChartLine(reader, kind);
+      if (!ChartKey(line).Fits(UpperCase(line.artist), UpperCase(line.track))) std::abort();
+    }
+  }
+}
+
 struct Parser {
   const char* name;
   void (*parse)(std::span<const uint8_t> bytes);
 };
-inline constexpr Parser kParsers[] = {{"id3v1", ParseId3v1},    {"id3v2", ParseId3v2},
-                                      {"mpeg", ParseMpeg},      {"classes", ParseClasses},
-                                      {"wma", ParseWma},        {"mp4", ParseMp4},
-                                      {"sidecar", ParseSidecar}};
+inline constexpr Parser kParsers[] = {{"id3v1", ParseId3v1},     {"id3v2", ParseId3v2},
+                                      {"mpeg", ParseMpeg},       {"classes", ParseClasses},
+                                      {"wma", ParseWma},         {"mp4", ParseMp4},
+                                      {"sidecar", ParseSidecar}, {"chart", ParseChart}};
 
 // True if the parser gave fields, false if it ended with its failure.
 inline bool Survives(const Parser& parser, std::span<const uint8_t> bytes) {

@@ -112,12 +112,21 @@ inline std::map<std::string, RecipesOfAParser> Recipes() {
       {"dos", ReplaceAll(kSidecar, "\n", "\r\n")},
       {"fails_a_line_missing", kSidecar.substr(7)},
       {"fails_short_line", ReplaceAll(kSidecar, "<year>1984</year>", "<y></y>")}};
+  std::string lines_of_a_chart;
+  for (int i = 0; i < 10; ++i) lines_of_a_chart += "\"The Band, the\",Song & Co,p.gif\r\n";
+  const RecipesOfAParser chart = {
+      {"fails_plain", lines_of_a_chart},
+      {"resolved", ReplaceAll(lines_of_a_chart, "gif", "gif,\"\\m\\s.mp3\"")},
+      {"fails_one_field_a_line", ReplaceAll(lines_of_a_chart, ",", "\n")},
+      {"fails_nine_lines", lines_of_a_chart.substr(0, lines_of_a_chart.size() / 10 * 9)},
+      {"fails_a_quote_without_end", lines_of_a_chart.substr(0, 90) + "\"" + std::string(60, 'x')},
+      {"blanks_and_commas", std::string(40, ',') + std::string(40, ' ')}};
   const RecipesOfAParser id3v1 = {{"track", "x" + tail},
                                   {"no_track", Id3v1("Old", "ab\xFF")},
                                   {"short", tail.substr(1)},
                                   {"line_ends", Id3v1("a\r\nb", Zeros(3))}};
-  return {{"id3v1", id3v1}, {"id3v2", id3v2}, {"mpeg", mpeg},      {"classes", classes},
-          {"wma", wma},     {"mp4", mp4},     {"sidecar", sidecar}};
+  return {{"id3v1", id3v1}, {"id3v2", id3v2}, {"mpeg", mpeg},       {"classes", classes},
+          {"wma", wma},     {"mp4", mp4},     {"sidecar", sidecar}, {"chart", chart}};
 }
 
 }  // namespace sonotik

@@ -34,6 +34,8 @@ int64_t SystemClock::Milliseconds() const {
 
 void QtEventLoop::PumpEvents() { QCoreApplication::processEvents(); }
 
+void QtEventLoop::PaintNow() { QCoreApplication::sendPostedEvents(nullptr, QEvent::UpdateRequest); }
+
 void QtEventLoop::WaitForEvents(int most_ms) {
   QEventLoop nested;
   QTimer::singleShot(most_ms, Qt::PreciseTimer, &nested, &QEventLoop::quit);

@@ -30,6 +30,7 @@ class MersenneTwister : public RandomSource {
 class QtEventLoop : public EventLoop {
  public:
   void PumpEvents() override;
+  void PaintNow() override;
   void WaitForEvents(int most_ms) override;
   void Leave(int exit_status) override;
   // Fires the timers when they are due, for as long as the loop runs.

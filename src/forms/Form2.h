@@ -15,6 +15,11 @@ struct WindowStyle {
 
 struct Form2 {
   PictureBox forum_picture;  // New forum.bmp
+  // What is drawn on it: the track that plays.
+  PictureBox forum_cover;
+  Label forum_artist;
+  Label forum_title;
+  Label forum_album;
   WindowStyle style;
 };
 

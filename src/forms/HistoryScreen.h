@@ -25,7 +25,7 @@ struct HistoryScreen {
   std::array<HistoryRow, kHistoryRows> rows;
   std::array<lvButtons_H, 4> steps;  // by HistoryStep
   lvButtons_H back;
-  Label total;  // "Total Song(s) in History 12"
+  Label total;  // "Total Song(s) in History  12"
 };
 
 }  // namespace sonotik

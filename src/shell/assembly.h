@@ -11,10 +11,15 @@
 #include "access/pin_entry.h"
 #include "catalogue/album_pages.h"
 #include "catalogue/carousel.h"
+#include "catalogue/charts.h"
+#include "catalogue/decades.h"
 #include "catalogue/history.h"
+#include "catalogue/history_view.h"
 #include "catalogue/letter_jump.h"
 #include "catalogue/play_options.h"
+#include "catalogue/search_results.h"
 #include "catalogue/song_facts.h"
+#include "catalogue/top20.h"
 #include "catalogue/track_list.h"
 #include "config/settings_file.h"
 #include "files/milestone_log.h"
@@ -48,9 +53,6 @@ struct ShellState {
   int jingle_song_count = 0;
   int ticker_seconds = 0;
   Date last_seen_date;
-  // Today's month and year, read once at start; charts go by them.
-  int current_month = 0;
-  int current_year = 0;
   // The display mode found at start.
   DisplayMode saved_mode;
   bool attract_settings_loaded = false;
@@ -97,7 +99,12 @@ struct Assembly {
   Carousel carousel;
   TrackList track_list;
   PlayOptions play_options;
+  SearchResults search_results;
+  Charts charts;
+  Decades decades;
   History history;
+  HistoryView history_view;
+  Top20 top20;
   FactTable facts;
 
   PlaybackState playback;

@@ -6,6 +6,7 @@
 
 #include "playback/genre_lists.h"
 #include "shell/assembly.h"
+#include "shell/chart_ways.h"
 #include "shell/key_poll.h"
 #include "shell/menu.h"
 #include "shell/navigation.h"
@@ -26,6 +27,7 @@ class Jukebox {
         ticks(house),
         menu(house),
         navigation(house, menu),
+        chart_ways(house, menu, navigation),
         keys(house, menu, navigation),
         shutdown(house) {
     shutdown.hooks.save_random = [this] { SaveGenreLists(house.app_path, house.lists); };
@@ -34,6 +36,9 @@ class Jukebox {
     start_up.hooks.update_skinlist = [this] { house.skins.UpdateSkinList(); };
     ticks.hooks.PollKeys = [this] { keys.PollKeys(); };
     menu.hooks.power_down = [this] { shutdown.power_down(); };
+    start_up.hooks.load_history_chart = [this](const std::string& path) {
+      house.charts.load_history_chart(path);
+    };
     ticks.hooks.leave_program = [this] { shutdown.TimedExit(); };
   }
 
@@ -52,6 +57,7 @@ class Jukebox {
   Ticks ticks;
   Menu menu;
   Navigation navigation;
+  ChartWays chart_ways;
   KeyPoll keys;
   Shutdown shutdown;
 };

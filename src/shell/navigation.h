@@ -18,6 +18,9 @@ class Navigation {
   void SetVolume(int value);
   // Adds or plays by the way chosen; what fails behind the charge is no failure of the caller.
   void Choose(const std::string& path, PlayWay way);
+  // Where the guest stands once a track is added: on the screen that he came from, or, if asked
+  // for, on the album pages.
+  void AfterAdding(size_t calling_screen);
   void ToggleFullScreen();
 
  private:
@@ -34,7 +37,6 @@ class Navigation {
   void ChoosePlayOption(PlayWay way);
   void AddEntireAlbum();
   void PlayQueueEntry();
-  void AfterAdding(size_t calling_screen);
 
   Assembly& house_;
   Menu& menu_;

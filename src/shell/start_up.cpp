@@ -1,20 +1,10 @@
 #include "shell/start_up.h"
 
-#include "catalogue/charts.h"
 #include "config/version.h"
 #include "files/file_list.h"
 #include "playback/genre_lists.h"
 
 namespace sonotik {
-namespace {
-
-// 1 to 12 are used.
-constexpr const char* kMonthNames[] = {"",        "JANUARY",  "FEBRUARY", "MARCH",  "APRIL",
-                                       "MAY",     "JUNE",     "JULY",     "AUGUST", "SEPTEMBER",
-                                       "OCTOBER", "NOVEMBER", "DECEMBER"};
-
-}  // namespace
-
 StartUpResult StartUp::Form_Load() {
   const std::string& app_path = house_.app_path;
   if (!instance_.Take(app_path)) return StartUpResult::kSecondInstance;
@@ -42,7 +32,7 @@ StartUpResult StartUp::Form_Load() {
   Milestone("Genres Check Complete");
   house_.settings.double_click_action = 0;
   Milestone("Combo Buttons Set Up");
-  SetUpHistory();
+  house_.decades.SetToday();
   Milestone("History Set Up");
   Milestone("Keyboard Shortcuts Loaded");
   ChangeWorkingFolder(app_path);
@@ -98,20 +88,11 @@ void StartUp::ListGenres() {
   }
 }
 
-void StartUp::SetUpHistory() {
-  const Date today = house_.machine.clock.Now().date;
-  DecadesScreen& screen = house_.form1.decades;
-  screen.month_caption.SetCaption(kMonthNames[today.month]);
-  screen.year_caption.SetCaption(std::to_string(today.year));
-  house_.state.current_month = today.month;
-  house_.state.current_year = today.year;
-}
-
 void StartUp::SetUpYearButtons() {
   auto& buttons = house_.form1.decades.year_buttons;
   for (size_t i = 0; i < buttons.size(); ++i) {
     const int year = kFirstChartYear + static_cast<int>(i);
-    if (year > house_.state.current_year + 1) {
+    if (year > house_.decades.year() + 1) {
       buttons[i].SetVisible(false);
     } else {
       buttons[i].SetCaption(std::to_string(year));
@@ -154,10 +135,8 @@ void StartUp::LoadDataFiles() {
     // A Terminal plays nothing, so it can't choose by itself.
     house_.playback.random_play_available = !house_.network.terminal();
   });
-  Load("load_history_chart", "History CHART Load Complete", [&] {
-    hooks.load_history_chart(
-        ChartPath(house_.app_path, house_.state.current_month, house_.state.current_year));
-  });
+  Load("load_history_chart", "History CHART Load Complete",
+       [&] { hooks.load_history_chart(house_.decades.chart_path()); });
   if (house_.settings.full_screen) house_.machine.displays.SetFullScreen(true);
   Run("window style", hooks.apply_window_style);
   Load("random.dat", "Random PLAY Load Complete",

@@ -47,7 +47,6 @@ class StartUp {
  private:
   void ListGenres();
   void SetUpScreens();
-  void SetUpHistory();
   void SetUpYearButtons();
   void LoadDataFiles();
   void ShowFirstPage();

@@ -115,6 +115,8 @@ class TestEvents : public EventLoop {
  public:
   // Runs at each pump: what a guest does while a handler lets events run.
   std::function<void()> on_pump = [] {};
+  // Runs when the screen is painted inside a handler.
+  std::function<void()> on_paint = [] {};
   int pumps = 0;
   bool left = false;
   int exit_status = -1;
@@ -123,6 +125,7 @@ class TestEvents : public EventLoop {
     ++pumps;
     on_pump();
   }
+  void PaintNow() override { on_paint(); }
   void WaitForEvents(int) override { PumpEvents(); }
   void Leave(int status) override {
     left = true;

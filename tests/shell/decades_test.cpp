@@ -1,0 +1,235 @@
+// The charts of the months, as a guest looks through them.
+#include <gtest/gtest.h>
+
+#include "support/jukebox_test.h"
+#include "widgets/picture_source.h"
+
+namespace sonotik {
+namespace {
+
+class DecadesTest : public JukeboxTest {
+ protected:
+  void AddTrack(const std::string& path, const std::string& artist, const std::string& track) {
+    TrackRecord record;
+    PutField(record.bytes, TrackRecord::kPath.offset, TrackRecord::kPath.width, path);
+    PutField(record.bytes, TrackRecord::kArtist.offset, TrackRecord::kArtist.width, artist);
+    PutField(record.bytes, TrackRecord::kTrack.offset, TrackRecord::kTrack.width, track);
+    records.append(record.bytes.data(), record.bytes.size());
+    folder.Write("Records.rec", records);
+  }
+  // Ten lines, those given first.
+  static std::string Chart(std::vector<std::string> lines, const std::string& filler) {
+    lines.resize(10, filler);
+    std::string text;
+    for (const std::string& line : lines) text += line + "\r\n";
+    return text;
+  }
+  static std::string Plain(std::vector<std::string> lines) {
+    return Chart(std::move(lines), "\"nobody at all\",\"nothing\",\"\"");
+  }
+  void Open() { Click(form().menu_buttons[static_cast<size_t>(MenuButton::kDecades)]); }
+  void Step(DecadesStep step) { Click(form().decades.steps[static_cast<size_t>(step)]); }
+  ChartRow& Row(size_t row) { return form().decades.rows[row]; }
+  std::string Path(int row) { return house().charts.PathOfRow(row); }
+  std::string Headings() {
+    return form().decades.month_caption.caption() + " " + form().decades.year_caption.caption();
+  }
+
+  std::string records;
+};
+
+constexpr char kMonth[] = "history/2024/01.txt";
+
+TEST_F(DecadesTest, MonthsWrapWithinTheirYearAndYearsEndAtBothEnds) {
+  Start();
+  Open();
+  EXPECT_EQ(Headings(), "JANUARY 2024");
+  Step(DecadesStep::kMonthBack);
+  EXPECT_EQ(Headings(), "DECEMBER 2024");
+  EXPECT_EQ(house().decades.chart_path(), folder.path() + "\\history\\2024\\12.txt");
+  Step(DecadesStep::kYearOn);
+  EXPECT_EQ(Headings(), "DECEMBER 2024");
+  Step(DecadesStep::kMonthOn);
+  Step(DecadesStep::kYearBack);
+  EXPECT_EQ(Headings(), "JANUARY 2023");
+  Click(form().decades.year_caption);
+  EXPECT_TRUE(form().decades.year_picker.visible());
+  Click(form().decades.year_buttons[0]);
+  EXPECT_FALSE(form().decades.year_picker.visible());
+  Step(DecadesStep::kYearBack);
+  EXPECT_EQ(Headings(), "JANUARY 1953");
+  Click(form().decades.month_caption);
+  EXPECT_EQ(form().decades.month_buttons[1].caption(), "Feburary");
+  Click(form().decades.month_buttons[1]);
+  EXPECT_FALSE(form().decades.month_picker.visible());
+  EXPECT_EQ(Headings(), "FEBRUARY 1953");
+  EXPECT_EQ(Row(9).artist.caption(), "CHART NOT FOUND");
+  EXPECT_EQ(Row(9).track.caption(), "CHART NOT FOUND");
+}
+
+TEST_F(DecadesTest, ALineIsJoinedWithTheFirstRecordThatHoldsTheStartsOfItsNames) {
+  AddTrack("\\m\\else.mp3", "Bob", "Dawn Chorus");
+  AddTrack("\\m\\1.mp3  ", "the ada lovelace band", "at dawn chorale");
+  AddTrack("\\m\\2.mp3", "Ada Lovelace", "Dawn Chorus");
+  AddTrack("\\m\\3.mp3", "Simon & Ada", "R&B");
+  AddTrack("\\m\\4.mp3", "Nobody", "Nothing");
+  AddTrack("\\m\\last.mp3", "Zoe", "End");
+  folder.Write(kMonth,
+               Plain({"\" ADA LOvejoy\",\"Dawn Choir, the\",\"\"", "Zoe,End,",
+                      "The Ada Band,\"at dawn ch\",", "\"Simon & Ada\",R&B,", "Zo,en,x.gif"}));
+  Start();
+  EXPECT_EQ(Path(0), "\\m\\1.mp3");
+  EXPECT_EQ(Path(1), "\\m\\last.mp3");
+  EXPECT_EQ(Path(2), "\\m\\1.mp3");
+  EXPECT_EQ(Path(3), "\\m\\3.mp3");
+  EXPECT_EQ(Path(4), "\\m\\last.mp3");
+  // "NOBODY " with the blank is in no name that ends there.
+  EXPECT_EQ(Path(5), "");
+  Open();
+  EXPECT_EQ(Row(3).artist.caption(), "( 4) Simon && Ada");
+  EXPECT_EQ(Row(3).track.caption(), "R&&B");
+  EXPECT_EQ(Row(9).artist.caption(), "( 10) nobody at all");
+  EXPECT_TRUE(Row(1).play_now.showing());
+  EXPECT_TRUE(Row(1).add_queue.showing());
+  EXPECT_FALSE(Row(5).play_now.visible());
+  EXPECT_EQ(Row(5).cover.picture(), house().covers.NotFoundPicture());
+  // The songs that are new have no file to look in.
+  house().cursor.media_kind = kNewSongs;
+  house().settings.add_to_queue = false;
+  Step(DecadesStep::kYearOn);
+  EXPECT_EQ(Path(1), "");
+  house().cursor.media_kind = kAudio;
+  Step(DecadesStep::kYearOn);
+  EXPECT_TRUE(Row(1).play_now.showing());
+  EXPECT_FALSE(Row(1).add_queue.visible());
+}
+
+TEST_F(DecadesTest, AResolvedChartNeedsNoScan) {
+  AddTrack("\\m\\1.mp3", "Ada", "Dawn");
+  folder.Write(kMonth, Plain({"Ada,Dawn,"}));
+  folder.Write("history/2024/01.pre",
+               Chart({"Ada,Dusk,,\"\\m\\2.mp3\"", "Bob,Noon,,"}, "a,b,c,\"\\x\\y.mp3\""));
+  int paints = 0;
+  machine.events.on_paint = [&] { ++paints; };
+  Start();
+  Open();
+  EXPECT_EQ(Row(0).track.caption(), "Dusk");
+  EXPECT_EQ(Path(0), "\\m\\2.mp3");
+  EXPECT_TRUE(Row(0).play_now.visible());
+  EXPECT_FALSE(Row(1).play_now.visible());
+  EXPECT_EQ(Path(9), "\\x\\y.mp3");
+  EXPECT_EQ(paints, 0);
+}
+
+TEST_F(DecadesTest, ThePanelIsPaintedBeforeTheScanAndItsBarMovesWithALongOne) {
+  for (int i = 0; i < 5000; ++i) records += TrackBytes("\\m\\x.mp3", "Other");
+  folder.Write("Records.rec", records);
+  folder.Write(kMonth, Plain({}));
+  Start();
+  // The album pages alone, although a chart was loaded.
+  EXPECT_TRUE(form().panel(screen::kAlbum).visible());
+  EXPECT_FALSE(form().panel(screen::kDecades).visible());
+  Open();
+  std::vector<int> bar;
+  machine.events.on_paint = [&] {
+    EXPECT_TRUE(form().searching.panel.visible());
+    EXPECT_FALSE(form().decades.panel.visible());
+    bar.push_back(form().searching.progress.value());
+    machine.clock.Add(300);
+  };
+  Step(DecadesStep::kYearOn);
+  EXPECT_EQ(bar, (std::vector<int>{0, 2, 4, 6, 8}));
+  EXPECT_EQ(form().searching.progress.max(), 10);
+  EXPECT_FALSE(form().searching.panel.visible());
+  EXPECT_TRUE(form().decades.panel.visible());
+}
+
+TEST_F(DecadesTest, AChartOfAnyLengthGivesItsWholeLinesAndNothingOfAnother) {
+  AddTrack("\\m\\1.mp3", "Ada", "Dawn");
+  folder.Write(kMonth, Chart({}, "Ada,Dawn,"));
+  const std::string whole = Chart({"Ada,\"Dusk, late\",\"\""}, "Ada,Dusk,x");
+  Start();
+  Open();
+  folder.Write("history/2024/02.txt", "");
+  for (size_t length = 0; length < whole.size(); ++length) {
+    folder.Write("history/2024/02.txt", whole.substr(0, length));
+    Step(DecadesStep::kMonthOn);
+    for (size_t row = 0; row < 10; ++row) {
+      EXPECT_NE(Row(row).track.caption(), "Dawn");
+      EXPECT_FALSE(Row(row).play_now.visible());
+      EXPECT_EQ(Row(row).artist.caption().empty(), Row(row).track.caption().empty());
+    }
+    EXPECT_TRUE(form().decades.panel.visible());
+    EXPECT_FALSE(form().searching.panel.visible());
+    Step(DecadesStep::kMonthBack);
+    ASSERT_TRUE(Row(9).play_now.visible());
+  }
+  // Fields are what is read: a line with one takes two from the line behind it.
+  folder.Write(kMonth, "Ada\r\nDawn\r\n\r\n" + Chart({"Zoe"}, "\"Ada, \"x,Dawn,"));
+  Step(DecadesStep::kYearOn);
+  EXPECT_EQ(Row(0).track.caption(), "Dawn");
+  EXPECT_EQ(Row(1).artist.caption(), "( 2) Zoe");
+  EXPECT_EQ(Row(1).track.caption(), "Ada, ");
+}
+
+TEST_F(DecadesTest, OnlyPicturesThatAreThereAreShown) {
+  struct Files : PictureSource {
+    std::optional<Rect> SizeOf(const std::string&) override { return std::nullopt; }
+    std::optional<PixelSurface> Pixels(const std::string&, int) override { return std::nullopt; }
+    std::optional<std::string> Bytes(const std::string& path) override {
+      asked.push_back(NameOf(path));
+      return std::nullopt;
+    }
+    std::vector<std::string> asked;
+  } files;
+  folder.Write("history/images/one.gif", "x");
+  folder.Write("history/images/two.gif", "x");
+  folder.Write("history/2024/01.pre", Chart({"a,b,one.gif,", "a,b,two.gif,"}, "a,b,none.gif,"));
+  folder.Write("history/2024/12.pre", Chart({}, "a,b,,"));
+  Start();
+  form().form.pictures = &files;
+  Open();
+  Step(DecadesStep::kMonthBack);
+  Step(DecadesStep::kMonthOn);
+  EXPECT_EQ(files.asked, (std::vector<std::string>{"one.gif", "two.gif"}));
+  form().form.pictures = nullptr;
+}
+
+TEST_F(DecadesTest, RowsPlayAndQueueForMoneyWhatTheyHave) {
+  settings.enable_credit_mode = true;
+  settings.allow_duplicates_in_queue = false;
+  WriteDefaults();
+  folder.Write("cost.dat", " 1 \r\n 1 \r\n 1 \r\n 1 \r\n 1 \r\n 1 \r\n 1 \r\n 1 \r\n 1 \r\n");
+  const std::string dawn = WriteTrack("Day", "1.wav", "Ada", "Dawn");
+  const std::string noon = WriteTrack("Day", "2.wav", "Ada", "Noon");
+  AddTrack(dawn, "Ada", "Dawn");
+  AddTrack(noon, "Ada", "Noon");
+  folder.Write(kMonth, Plain({"Ada,Dawn,", "Ada,Noon,"}));
+  Start();
+  house().credits.Receive("9");
+  Open();
+  Click(Row(0).play_now);
+  EXPECT_EQ(machine.player.file, dawn);
+  EXPECT_EQ(house().credits.count(), 7);
+  Click(Row(1).add_queue);
+  Click(Row(1).add_queue);
+  EXPECT_EQ(house().queue.count(), 1);
+  EXPECT_EQ(house().credits.count(), 5);
+  house().settings.allow_duplicates_in_queue = true;
+  Click(Row(1).add_queue);
+  EXPECT_EQ(house().queue.count(), 2);
+  EXPECT_TRUE(form().decades.panel.showing());
+  // The table is the searches' as well: a row has what stands in it now, and nothing is free of
+  // charge to lose.
+  house().search_results.paths[0] = noon + "   ";
+  house().search_results.paths[1].clear();
+  const int credits = house().credits.count();
+  Click(Row(1).play_now);
+  Click(Row(1).add_queue);
+  EXPECT_EQ(house().credits.count(), credits);
+  Click(Row(0).play_now);
+  EXPECT_EQ(machine.player.file, noon);
+}
+
+}  // namespace
+}  // namespace sonotik
