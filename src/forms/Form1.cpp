@@ -1,5 +1,7 @@
 #include "forms/Form1.h"
 
+#include <algorithm>
+
 namespace sonotik {
 namespace {
 
@@ -122,8 +124,16 @@ void Form1::FitUnplaced() {
     const Rect panel = item.control->parent()->place();
     const float across = panel.width / item.panel.width;
     const float down = panel.height / item.panel.height;
-    item.control->SetPlace({item.design.left * across, item.design.top * down,
-                            item.design.width * across, item.design.height * down});
+    Rect place{item.design.left * across, item.design.top * down, item.design.width * across,
+               item.design.height * down};
+    // A picture keeps its ratio, in the middle of its share.
+    if (dynamic_cast<PictureBox*>(item.control) != nullptr) {
+      const float scale = std::min(across, down);
+      const float width = item.design.width * scale, height = item.design.height * scale;
+      place = {place.left + (place.width - width) / 2, place.top + (place.height - height) / 2,
+               width, height};
+    }
+    item.control->SetPlace(place);
   }
 }
 

@@ -12,6 +12,7 @@ namespace sonotik {
 namespace {
 
 constexpr size_t kItems = 6;  // a position
+constexpr float kLeastPoints = 6;
 
 std::array<Control*, kItems> ItemsOf(CoverPosition& position) {
   return {&position.cover,     &position.frame, &position.reflection,
@@ -25,6 +26,19 @@ Rect ReadBox(FieldReader& reader) {
   place.height = ReadLength(reader);
   place.width = ReadLength(reader);
   return place;
+}
+
+// No file says how large the names below the covers are written: they fill their boxes.
+void FitLetters(CoverPosition& position) {
+  const auto fit = [](Label& label, float points_of_height) {
+    Font font = label.font();
+    font.points = std::max(kLeastPoints, label.place().height * points_of_height);
+    label.SetFont(font);
+  };
+  // In points, of a height in pixels.
+  fit(position.new_badge, 0.4F);
+  fit(position.album, 0.5F);
+  fit(position.artist, 0.5F);
 }
 
 }  // namespace
@@ -52,6 +66,7 @@ void LoadCoverLayout(const std::string& path, CoverLayout& layout, AlbumScreen& 
         items[k]->SetVisible(false);
       }
     }
+    if (i * kItems < places.size()) FitLetters(screen.covers[i]);
   }
 }
 

@@ -14,6 +14,7 @@ namespace {
 
 // Nobody reads longer ones, and measuring them would hold everything up.
 constexpr size_t kLongestText = 1024;
+constexpr int kDarkerWhilePressed = 3;
 constexpr double kLeastPoints = 1;
 constexpr double kMostPoints = 1000;
 
@@ -114,6 +115,8 @@ void FinishButtons(BlockKind kind, std::span<Control* const> controls, int shape
                    const Rect& size) {
   ForEachButton(controls, [&](lvButtons_H& button) {
     button.SetButtonShape(shape);
+    // A finger sees that it has pressed a picture, too. Other shapes show it by themselves.
+    button.SetCustomClick(kDarkerWhilePressed);
     button.Refresh();
     // The skin's colours count under the mouse as well, not those of the forms' own look.
     button.SetLockHover(0);

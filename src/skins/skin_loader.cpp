@@ -5,6 +5,7 @@
 
 #include "files/files.h"
 #include "files/runtime_failure.h"
+#include "skins/unplaced_look.h"
 #include "text/numbers.h"
 
 namespace sonotik {
@@ -59,6 +60,7 @@ void SkinLoader::ApplySkin() {
   PointCoverLayouts();
   FindSpecialLists();
   LoadFixedPictures(reader);
+  DressUnplaced(form_);
   // A picture may have its old name and be another file.
   form_.form.Invalidate();
 }
@@ -85,6 +87,11 @@ void SkinLoader::FinishFile(const LayoutReader& reader, std::string_view file) {
   } else if (file == "nav.ini") {
     Spread(form_.album.left_scroll);
     Spread(form_.album.right_scroll);
+  } else if (file == "decades_year.ini") {
+    // It has a size and no place: it begins where the months do.
+    const Rect months = form_.decades.month_picker.place();
+    const Rect years = form_.decades.year_picker.place();
+    form_.decades.year_picker.SetPlace({months.left, months.top, years.width, years.height});
   } else if (file == "now_playing.ini") {
     Spread(form_.now_playing.next_song);
     const std::string frame = reader.PictureAt("images\\now playing.gif");

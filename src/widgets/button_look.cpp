@@ -208,7 +208,7 @@ void Painting::PaintContents() {
   Rect room = ShapeInside(p_.shape, look_.inner).Inset(kMargin);
   if (p_.back_style == back_style::kBezel) room = room.Inset(frame_ - 1);
   // What stands at an edge keeps off its corners.
-  if (p_.cap_align != 2 || !p_.image.empty()) {
+  if (p_.cap_align != 2 || (!p_.image.empty() && look_.cut == nullptr)) {
     room = {room.left + 4, room.top, room.width - 8, room.height};
   }
   const std::string text = CaptionAsShown(ReplaceAll(p_.caption, "||", "\n"));

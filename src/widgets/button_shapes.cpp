@@ -105,8 +105,9 @@ Rect ShapeInside(int shape, const Rect& rect) {
       break;
     case shape::kCustomFlat:
     case shape::kCustomRaised:
-      left = right = rect.width * 0.08F;
-      down = rect.height * 0.08F;
+      // A picture has its own edge; most are no wider than this.
+      left = right = std::min(rect.width * 0.08F, 4.0F);
+      down = std::min(rect.height * 0.08F, 2.0F);
       break;
     default:
       break;

@@ -47,14 +47,14 @@ class SettingsFileTest : public testing::Test {
 TEST_F(SettingsFileTest, TheDeliveredDefaultsLoadAndStandInTheirLines) {
   file.LoadConfig();
   EXPECT_TRUE(messages.shown.empty());
-  EXPECT_EQ(lists.skins, ItemList{"Plain"});
-  EXPECT_EQ(lists.calendar_skins, ItemList{"Plain"});
-  EXPECT_EQ(settings.current_skin, "Plain");
+  EXPECT_EQ(lists.skins, (ItemList{"Classic", "Neon", "Plain"}));
+  EXPECT_EQ(lists.calendar_skins, lists.skins);
+  EXPECT_EQ(settings.current_skin, "Neon");
   // The delivered file can't know the folder it lies in.
   EXPECT_EQ(settings.attract_path, path);
   const auto lines = Lines("sonotik.def");
-  ASSERT_EQ(lines.size(), 183U);
-  const size_t skins = 1;
+  ASSERT_EQ(lines.size(), 185U);
+  const size_t skins = 3;
   EXPECT_EQ(lines[11 + skins], "Credit Settings\r\n");
   EXPECT_EQ(lines[83 + skins], "Display Tabs\r\n");
   EXPECT_EQ(lines[92 + skins], "Play Button Settings\r\n");
@@ -184,7 +184,7 @@ TEST_F(SettingsFileTest, OfABadFileOnlyTheValuesThatDoNotWaitStay) {
 TEST_F(SettingsFileTest, ReadingTwiceDoublesTheSkins) {
   file.LoadConfig();
   file.LoadConfig();
-  EXPECT_EQ(lists.skins, (ItemList{"Plain", "Plain"}));
+  EXPECT_EQ(lists.skins, (ItemList{"Classic", "Neon", "Plain", "Classic", "Neon", "Plain"}));
 }
 
 TEST_F(SettingsFileTest, WithoutAnyFileTheFailureLeaves) {

@@ -189,6 +189,8 @@ class ClassicBrushwork : public Brushwork {
         return Framed(p, r, 6, 2, Down(r, {QColor(255, 250, 234), QColor(230, 214, 178)}));
       case Look::kDanger:
         return Framed(p, r, 8, 4, Down(r, {QColor(196, 58, 50), QColor(128, 20, 24)}));
+      case Look::kBack:
+        return Framed(p, r, 8, 4, Down(r, {QColor(255, 226, 150), QColor(248, 184, 84)}));
       case Look::kTab:
         return Framed(p, r, 8, 3, Down(r, {QColor(150, 40, 38), QColor(96, 16, 20)}));
       case Look::kMenu:
@@ -251,13 +253,14 @@ const Design& Classic() {
       .picture_gap = 8,
       .face = "Cabin",
       .button_face = "Cabin",
-      .points = {11, 13, 15, 19, 26, 12, 10, 15},
+      .points = {10, 13, 15, 19, 26, 12, 10, 15},
       .inks = {stage, QColor(226, 196, 152), kLamp, kPaperInk, kPaperSoft, kRed,
                QColor(255, 150, 110)},
       .buttons = {ButtonInk{kPaperInk, kPaperInk},
                   {kPaperInk, kPaperInk},
                   {kPaperInk, kPaperInk},
                   {stage, stage},
+                  {kPaperInk, kPaperInk},
                   {stage, stage},
                   {stage, kLamp},
                   {kPaperInk, kPaperInk}},
@@ -266,7 +269,7 @@ const Design& Classic() {
       .panel = QColor(60, 32, 18),
       .dark = QColor(44, 22, 12),
       .pages = {{"4 covers", 4, 1, true, true, 26, 22},
-                {"12 covers", 6, 2, false, true, 20, 18},
+                {"12 covers", 6, 2, true, true, 22, 20},
                 {"24 covers", 8, 3, false, false, 17, 15}},
       .brushwork = &brushwork,
   };

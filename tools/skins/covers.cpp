@@ -96,9 +96,9 @@ std::vector<CoverPlace> PlacesOf(const Design& d, const CoverPage& page) {
     place.cover = Whole({middle - side / 2, top, side, side});
     place.frame = place.cover.Inset(-edge);
     place.reflection = {place.cover.left, place.cover.bottom() + edge, side, reflected};
-    const float badge = std::max(38.0F, std::round(side / 5));
+    const float badge = std::max(44.0F, std::round(side / 5));
     place.badge =
-        Whole({place.cover.right() - badge + edge, place.cover.top - edge, badge, badge * 0.44F});
+        Whole({place.cover.right() - badge + edge, place.cover.top - edge, badge, badge * 0.42F});
     // As wide as the place allows: a name says more than the gap beside it.
     const float width = room - d.gap;
     place.album = Whole(
@@ -153,7 +153,7 @@ void PaintPreview(Sheet& sheet) {
     p.setFont(FontOf(d, d.Points(button.type) * kPixelsPerPoint, false));
     p.setPen(d.InkOf(button.look).text);
     QRectF words = ToQt(place);
-    if (stacked) words.setTop(words.top() + words.height() * 0.58);
+    if (stacked) words.setTop(words.top() + words.height() * 0.46);
     p.drawText(words, Qt::AlignCenter | Qt::TextWordWrap, QString::fromStdString(button.caption));
   }
   const QImage frame(sheet.PathOf("cover_frame.png"));

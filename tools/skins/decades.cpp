@@ -32,7 +32,7 @@ void LayOutMonths(Sheet& sheet) {
   picture.Card();
   Rect content = picture.content();
   Rect bottom = TakeBottom(content, d.button_height, d.margin);
-  sheet.Button("decades.monthBack", 0, TakeRight(bottom, d.side, 0), "BACK", Look::kPrimary);
+  sheet.Button("decades.monthBack", 0, TakeRight(bottom, d.side, 0), "BACK", Look::kBack);
   // Two of these names are misspelled since ever, and stay so.
   static constexpr const char* kMonths[] = {"January",   "Feburary", "March",    "April",
                                             "May",       "June",     "July",     "August",
@@ -54,7 +54,7 @@ void LayOutYears(Sheet& sheet) {
   picture.Card();
   Rect content = picture.content();
   Rect bottom = TakeBottom(content, d.button_height, d.margin);
-  sheet.Button("decades.yearBack", 0, TakeRight(bottom, d.side, 0), "BACK", Look::kPrimary);
+  sheet.Button("decades.yearBack", 0, TakeRight(bottom, d.side, 0), "BACK", Look::kBack);
   const Rect heads = TakeLeft(content, wide ? 120 : 72, d.gap);
   // A row a decade, the first beginning with its third year.
   const auto cells = Grid(content, 10, 6, d.gap);

@@ -35,11 +35,12 @@ enum class Look {
   kPrimary,  // the one that people came for
   kQuiet,    // one of many: keys, letters, years
   kDanger,   // takes something away
+  kBack,     // leads home
   kTab,
   kMenu,
   kPlayer,
 };
-inline constexpr size_t kLooks = 7;
+inline constexpr size_t kLooks = 8;
 
 enum class Icon {
   kNone,

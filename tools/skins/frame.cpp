@@ -26,10 +26,10 @@ void LayOutMenu(Sheet& sheet) {
   };
   // By how often a guest wants them, from the left.
   static constexpr Entry kEntries[] = {
-      {8, "Album View", Icon::kAlbums}, {3, "Show Queue", Icon::kQueue},
-      {2, "Search", Icon::kSearch},     {6, "Carousel View", Icon::kCarousel},
-      {7, "Genres", Icon::kGenres},     {5, "Decades", Icon::kDecades},
-      {1, "Top 20", Icon::kTop20},      {0, "History", Icon::kHistory},
+      {8, "Album View", Icon::kAlbums},      {3, "Show Queue", Icon::kQueue},
+      {6, "Carousel View", Icon::kCarousel}, {2, "Search", Icon::kSearch},
+      {7, "Genres", Icon::kGenres},          {5, "Decades", Icon::kDecades},
+      {1, "Top 20", Icon::kTop20},           {0, "History", Icon::kHistory},
       {4, "Options", Icon::kOptions},
   };
   const float around = d.width > 1400 ? 12 : 8;
@@ -84,15 +84,15 @@ void LayOutPlayer(Sheet& sheet) {
   const float third = names.height / 12;
   sheet.Text("player.status", 1, TakeTop(names, std::round(third * 5), 0), Type::kLarge,
              Ink::kStage);
-  sheet.Text("player.status", 0, TakeTop(names, std::round(third * 3.6F), 0), Type::kBody,
-             Ink::kStageAccent);
-  const Rect indicator{names.right() - names.height * 1.9F, names.top + 2,
-                       std::floor(names.height * 1.9F), names.height - 4};
+  Rect artist = TakeTop(names, std::round(third * 3.6F), 0);
+  // The bars dance at the end of the artist's line.
+  const float bars = wide ? 54 : 36;
+  const Rect indicator = TakeRight(artist, bars, d.gap).Inset(wide ? 3 : 2);
+  sheet.Text("player.status", 0, artist, Type::kBody, Ink::kStageAccent);
   const float time = wide ? 72 : 46;
   sheet.Text("player.status", 2, TakeLeft(names, time, 0), Type::kBody, Ink::kStage);
   sheet.Text("player.status", 3, TakeLeft(names, time + 10, 8), Type::kBody, Ink::kStageMuted);
-  sheet.Text("player.status", 4, {names.left, names.top, wide ? 110.0F : 66.0F, names.height},
-             Type::kBody, Ink::kWarning);
+  sheet.Text("player.status", 4, names, Type::kBody, Ink::kWarning);
 
   Rect right{random_right + d.margin, rest.top, rest.right() - random_right - d.margin,
              rest.height};
@@ -162,10 +162,11 @@ void LayOutAlbumScreen(Sheet& sheet) {
   };
   static constexpr Tab kTabs[] = {
       {0, "Audio"}, {1, "Video"}, {2, "Karaoke"}, {4, "New Songs"}, {5, "SPIN on THIS"}};
-  const float tab = d.width > 1400 ? 184 : 108;
+  const float tab = d.width > 1400 ? 184 : 112;
   Rect tabs = row;
   for (const Tab& entry : kTabs) {
-    sheet.Button("album.tab", entry.index, TakeLeft(tabs, tab, d.gap), entry.caption, Look::kTab);
+    sheet.Button("album.tab", entry.index, TakeLeft(tabs, tab, d.width > 1400 ? d.gap : 4),
+                 entry.caption, Look::kTab);
     if (entry.index < 3) {
       sheet.ButtonStyle("tab", entry.index, entry.caption, Look::kTab, Type::kButton);
     }
@@ -191,8 +192,8 @@ void LayOutAlbumScreen(Sheet& sheet) {
   const float letter_height = d.width > 1400 ? 64 : 48;
   Rect letters{d.margin, d.Screen().height - top - letter_height, d.width - 2 * d.margin,
                letter_height};
-  const float gap = d.width > 1400 ? 4 : 2;
-  const float start = d.width > 1400 ? 164 : 96;
+  const float gap = d.width > 1400 ? 4 : 1;
+  const float start = d.width > 1400 ? 180 : 92;
   sheet.Button("album.letter", 26, TakeRight(letters, start, gap * 2), "Jump To Start",
                Look::kPlain);
   const auto cells = Grid(letters, 26, 1, gap);
@@ -257,7 +258,7 @@ void LayOutGenreBar(Sheet& sheet) {
     const char* caption = i == 9 ? "Back" : "";
     const Icon icon = i == 0 ? Icon::kLeft : i == 8 ? Icon::kRight : Icon::kNone;
     sheet.Button("genreBar.button", static_cast<int>(i), cells[i], caption,
-                 i == 9 ? Look::kPrimary : Look::kPlain, icon);
+                 i == 9 ? Look::kBack : Look::kPlain, icon);
   }
 }
 
@@ -293,7 +294,7 @@ Rect TakeCommand(const Design& d, Rect& side) { return TakeTop(side, d.button_he
 
 void PlaceBack(Sheet& sheet, const std::string& target, Rect& side) {
   const Design& d = sheet.design();
-  sheet.Button(target, 0, TakeBottom(side, d.button_height, d.margin), "BACK", Look::kPrimary);
+  sheet.Button(target, 0, TakeBottom(side, d.button_height, d.margin), "BACK", Look::kBack);
 }
 
 void PlaceUpAndDown(Sheet& sheet, const std::string& up, int up_index, const std::string& down,

@@ -176,9 +176,9 @@ void LayOutHistory(Sheet& sheet) {
     picture.Plate(cell);
     cell = cell.Inset(d.picture_gap);
     // Six lines of text need the width more than the cover does.
-    const float cover = std::round(cell.width * 0.36F);
+    const float cover = std::round(cell.width * (d.width > 1400 ? 0.36F : 0.3F));
     Rect left = TakeLeft(cell, cover, d.picture_gap * 1.5F);
-    sheet.Box("history.cover", i, TakeTop(left, cover, 0));
+    sheet.Box("history.cover", i, Centered(left, cover, cover));
     sheet.Text("history.row", i, Whole(cell), Type::kSmall, Ink::kPlate);
   }
   sheet.SetColors("history.lines", 0, d.highlight, d.InkOf(Ink::kPlate));

@@ -105,6 +105,9 @@ class NeonBrushwork : public Brushwork {
       case Look::kDanger:
         return Rounded(p, r, 12, Down(r, QColor(52, 28, 52), QColor(38, 21, 40)), Alpha(kPink, 170),
                        1.5);
+      case Look::kBack:
+        return Rounded(p, r, 12, Down(r, QColor(18, 52, 74), QColor(13, 36, 54)), Alpha(kCyan, 200),
+                       2);
       case Look::kTab:
         return Rounded(p, r, r.height() / 2, Down(r, QColor(30, 38, 64), QColor(24, 30, 52)), kEdge,
                        1.5);
@@ -163,12 +166,13 @@ const Design& Neon() {
       .picture_gap = 8,
       .face = "Inter",
       .button_face = "Inter Medium",
-      .points = {15, 18, 21, 26, 36, 17, 14, 21},
+      .points = {15, 18, 21, 26, 36, 17, 15, 21},
       .inks = {kWhite, kSoft, kCyan, kWhite, kSoft, kCyan, QColor(255, 122, 184)},
       .buttons = {ButtonInk{kWhite, kWhite},
                   {kInk, kInk},
                   {kWhite, kCyan},
                   {QColor(255, 176, 212), kPink},
+                  {kWhite, kCyan},
                   {kWhite, kWhite},
                   {kWhite, kCyan},
                   {kWhite, kWhite}},

@@ -99,11 +99,11 @@ void LayOutPlayOptions(Sheet& sheet) {
   picture.Group(card);
   Rect inside = card.Inset(wide ? 48 : 28);
   const float line = std::round(d.Points(Type::kLarge) * 2);
-  Rect left = TakeLeft(inside, inside.height - line - d.gap * 2, wide ? 56 : 28);
-  const Rect cover = TakeTop(left, left.width, d.gap * 2);
+  const Rect below = TakeBottom(inside, line, d.gap * 2);
+  const Rect cover = TakeLeft(inside, inside.height, wide ? 56 : 28);
   picture.Well(cover);
   sheet.Box("playOptions.cover", 0, cover);
-  sheet.Text("playOptions.message", 3, {left.left, left.top, left.width, line}, Type::kBody,
+  sheet.Text("playOptions.message", 3, {cover.left, below.top, cover.width, line}, Type::kBody,
              Ink::kStageMuted);
 
   sheet.Text("playOptions.message", 1, TakeTop(inside, wide ? 64 : 42, 0), Type::kDisplay,

@@ -105,7 +105,7 @@ void LayOutResults(Sheet& sheet) {
   Rect row = TakeTop(content, d.tab_height, d.gap * 1.5F);
   static constexpr const char* kTabs[] = {"Audio", "Video", "Karaoke"};
   for (int i = 0; i < 3; ++i) {
-    sheet.Button("results.tab", i, TakeLeft(row, wide ? 184 : 108, d.gap), kTabs[i], Look::kTab);
+    sheet.Button("results.tab", i, TakeLeft(row, wide ? 184 : 112, d.gap), kTabs[i], Look::kTab);
   }
   sheet.Text("results.heading", 0, row, Type::kLarge, Ink::kStageMuted);
 
@@ -144,7 +144,7 @@ void LayOutGenres(Sheet& sheet) {
     const Rect cell = cells[static_cast<size_t>(i % 7 * 4 + i / 7)];
     picture.Plate(cell);
     sheet.Text("genre.label", i, {cell.left + 4, cell.top + 4, cell.width - 8, cell.height - 8},
-               Type::kLarge, Ink::kPlate);
+               Type::kBody, Ink::kPlate);
   }
   picture.Save("genres", "screen", 11);
 }

@@ -12,6 +12,7 @@ namespace {
 using F = FieldKind;
 
 constexpr double kPixelsPerPoint = 96.0 / 72.0;
+constexpr float kNarrow = 40;
 constexpr int kCutFromPicture = 7;  // the shape of a button
 
 int Number(const QColor& color) { return color.red() | color.green() << 8 | color.blue() << 16; }
@@ -67,7 +68,8 @@ Type Sheet::TypeOf(Look look) const {
 
 void Sheet::ButtonStyle(const std::string& target, int index, const std::string& caption, Look look,
                         Type type) {
-  const char* face = look == Look::kPrimary ? design_.face : design_.button_face;
+  const char* face =
+      look == Look::kPrimary || look == Look::kBack ? design_.face : design_.button_face;
   Set(target, index, F::kCaption, caption);
   Set(target, index, F::kShape, kCutFromPicture);
   Set(target, index, F::kMode, 0);
@@ -78,29 +80,30 @@ void Sheet::ButtonStyle(const std::string& target, int index, const std::string&
 
 void Sheet::Button(const std::string& target, int index, const Rect& place,
                    const std::string& caption, Look look, Icon icon) {
-  const Type type = TypeOf(look);
-  // Two blank lines above, where the icon is.
+  // Letters in a row of 26 have little room.
+  const Type type = look == Look::kQuiet && place.width < kNarrow ? Type::kBody : TypeOf(look);
+  // A blank line above, where the icon is.
   const bool stacked = icon != Icon::kNone && !caption.empty();
-  ButtonStyle(target, index, (stacked ? "||||" : "") + caption, look, type);
+  ButtonStyle(target, index, (stacked ? "||" : "") + caption, look, type);
   Box(target, index, place);
   Set(target, index, F::kPicture, ButtonPicture(place, look, icon, stacked));
-  CheckCaption(place, caption, type);
+  CheckCaption(place, caption, look, type);
   buttons_.push_back({target, index, place, caption, look, icon, type});
 }
 
 // On a skin that is delivered no caption is cut off.
-void Sheet::CheckCaption(const Rect& place, const std::string& caption, Type type) const {
+void Sheet::CheckCaption(const Rect& place, const std::string& caption, Look look,
+                         Type type) const {
   QFont font(design_.face);
   font.setPixelSize(static_cast<int>(design_.Points(type) * kPixelsPerPoint));
-  font.setBold(true);
+  font.setBold(look == Look::kPrimary || look == Look::kBack);
   const QFontMetricsF metrics(font);
-  const QRectF needed = metrics.boundingRect(QRectF(0, 0, place.width - 12, 1000), Qt::TextWordWrap,
+  const double width = place.width - 16, height = place.height - 8;
+  const QRectF needed = metrics.boundingRect(QRectF(0, 0, width, 1000), Qt::TextWordWrap,
                                              QString::fromStdString(caption));
-  if (place.empty() || (needed.width() <= place.width - 12 && needed.height() <= place.height - 8))
-    return;
+  if (place.empty() || (needed.width() <= width && needed.height() <= height)) return;
   std::fprintf(stderr, "%s: \"%s\" needs %.0f x %.0f and has %.0f x %.0f\n", design_.name,
-               caption.c_str(), needed.width(), needed.height(), place.width - 12,
-               place.height - 8);
+               caption.c_str(), needed.width(), needed.height(), width, height);
 }
 
 QImage PaintButtonPlate(const Design& design, int width, int height, Look look, Icon icon,
@@ -111,8 +114,10 @@ QImage PaintButtonPlate(const Design& design, int width, int height, Look look, 
   painter.setRenderHint(QPainter::Antialiasing);
   design.brushwork->Button(painter, image.rect(), look);
   if (icon == Icon::kNone) return image;
-  const double side = with_caption ? height * 0.36 : std::min(width * 0.5, height * 0.42);
-  const double middle = with_caption ? height * 0.36 : height * 0.5;
+  // The caption is the line below the middle.
+  const double side =
+      with_caption ? std::min(height * 0.35, 56.0) : std::min(width * 0.5, height * 0.42);
+  const double middle = with_caption ? height / 2.0 - 2 - side / 2 : height / 2.0;
   PaintIcon(painter, icon, QRectF((width - side) / 2, middle - side / 2, side, side),
             design.InkOf(look).icon);
   return image;
@@ -120,7 +125,7 @@ QImage PaintButtonPlate(const Design& design, int width, int height, Look look, 
 
 std::string Sheet::ButtonPicture(const Rect& place, Look look, Icon icon, bool with_caption) {
   static constexpr const char* kLookNames[] = {"plain", "primary", "quiet", "danger",
-                                               "tab",   "menu",    "player"};
+                                               "back",  "tab",     "menu",  "player"};
   const int width = static_cast<int>(place.width), height = static_cast<int>(place.height);
   if (width <= 0 || height <= 0) return "";
   std::string name = kLookNames[static_cast<size_t>(look)];

@@ -70,7 +70,7 @@ class Sheet {
 
  private:
   std::string ButtonPicture(const Rect& place, Look look, Icon icon, bool with_caption);
-  void CheckCaption(const Rect& place, const std::string& caption, Type type) const;
+  void CheckCaption(const Rect& place, const std::string& caption, Look look, Type type) const;
 
   const Design& design_;
   QString folder_;

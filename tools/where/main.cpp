@@ -1,9 +1,14 @@
-// Says where the controls of the plain look stand, so that the tour can press them with a real
-// mouse: one line each of name, left, top, width and height.
+// Says where the controls of a skin stand, so that the tour can press them with a real mouse: one
+// line each of name, left, top, width and height. sonotik-where DEMO SKIN
+#include <exception>
 #include <iostream>
 #include <string>
 
+#include "files/file_list.h"
+#include "files/paths.h"
 #include "forms/Form1.h"
+#include "skins/cover_layout.h"
+#include "skins/layout_reader.h"
 
 namespace sonotik {
 namespace {
@@ -15,7 +20,12 @@ void Say(const std::string& name, const Control& control) {
 }
 
 void SayAll(const Form1& form) {
+  Say("window", form.form);
+  Say("player", form.player);
   Say("position", form.position);
+  for (size_t i = 0; i < form.menu_buttons.size(); ++i) {
+    Say("menu" + std::to_string(i), form.menu_buttons[i]);
+  }
   Say("menu_queue", form.menu_buttons[static_cast<size_t>(MenuButton::kShowQueue)]);
   Say("menu_carousel", form.menu_buttons[static_cast<size_t>(MenuButton::kCarousel)]);
   Say("menu_album", form.menu_buttons[static_cast<size_t>(MenuButton::kAlbumView)]);
@@ -42,16 +52,44 @@ void SayAll(const Form1& form) {
   Say("add_to_queue", form.play_options.add_to_queue);
   Say("cancel", form.play_options.cancel);
   for (size_t i = 0; i < form.queue.rows.size(); ++i) {
-    Say("queue" + std::to_string(i), form.queue.rows[i].touch);
+    Say("queue" + std::to_string(i), form.queue.rows[i].track);
   }
   Say("queue_back", form.queue.back);
   Say("full_screen", form.now_playing.full_screen);
 }
 
+// The files alone: no screen is shown, so what a jukebox does beside reading them isn't needed.
+void PutOn(Form1& form, const std::string& folder) {
+  const LayoutTargets targets(form);
+  LayoutReader reader(targets, folder);
+  Rect window;
+  reader.on_number = [&](std::string_view, FieldKind kind, double number) {
+    if (kind == FieldKind::kScreenWidth) window.width = static_cast<float>(number);
+    if (kind == FieldKind::kScreenHeight) window.height = static_cast<float>(number);
+  };
+  for (const LayoutFile& file : LayoutFiles()) reader.Read(file);
+  if (!window.empty()) form.form.SetPlace(window);
+  FileList pages("*.cov");
+  pages.SetFolder(folder);
+  CoverLayout layout;
+  if (pages.count() > 0) LoadCoverLayout(pages.PathAt(0), layout, form.album);
+}
+
 }  // namespace
 }  // namespace sonotik
 
-int main() {
-  const sonotik::Form1 form;
-  sonotik::SayAll(form);
+int main(int argc, char** argv) {
+  if (argc != 3) {
+    std::cerr << "usage: sonotik-where DEMO SKIN\n";
+    return 2;
+  }
+  try {
+    sonotik::Form1 form;
+    sonotik::PutOn(form, sonotik::ProgramPath(argv[1]) + "\\skins\\" + argv[2]);
+    sonotik::SayAll(form);
+    return 0;
+  } catch (const std::exception& failure) {
+    std::cerr << "sonotik-where: " << failure.what() << '\n';
+    return 1;
+  }
 }
