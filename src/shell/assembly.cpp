@@ -59,8 +59,8 @@ Assembly::Assembly(std::string path, Machine& ports)
     return true;
   };
   play_options.queue_count = [this] { return queue.count(); };
-  skins.hooks.set_track_rows = [this](int rows) { track_list.SetRowsPerPage(rows); };
-  skins.hooks.fit_video_window = [this] { engine.FitVideoWindow(); };
+  skins.screens.hooks.set_track_rows = [this](int rows) { track_list.SetRowsPerPage(rows); };
+  skins.screens.hooks.fit_video_window = [this] { engine.FitVideoWindow(); };
   for (ucAniGIF* gif :
        {&form1.now_playing_indicator, &form1.now_playing.rating, &form1.decades.chart_picture}) {
     gif->SetTimers(machine.timers);

@@ -88,7 +88,7 @@ void Menu::OpenQueue() {
 
 void Menu::OpenGenres() {
   Form1& form = house_.form1;
-  if (house_.skins.genre_style() < 1) {
+  if (house_.skins.screens.genre_style() < 1) {
     hooks.show_genres();
     return form.ShowScreen(screen::kGenre);
   }

@@ -33,7 +33,7 @@ void Shutdown::TimedExit() {
 
 void Shutdown::GiveBackDesktop() {
   house_.machine.displays.SetTaskbarVisible(true);
-  if (house_.skins.mode_changed()) house_.machine.displays.RestoreResolution();
+  if (house_.skins.screens.mode_changed()) house_.machine.displays.RestoreResolution();
 }
 
 void Shutdown::SaveQueue() {

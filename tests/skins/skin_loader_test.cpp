@@ -191,7 +191,7 @@ TEST_F(SkinLoaderTest, ChoosesPageButtonsOrScrollPanels) {
 }
 
 TEST_F(SkinLoaderTest, TakesTheHeadOfTheMenuForTheGenres) {
-  EXPECT_EQ(Skins().genre_style(), 0);
+  EXPECT_EQ(Skins().screens.genre_style(), 0);
   const Rect design = form().menu.place();
   WriteLayout("menu.ini", [](const LayoutField& field) {
     return field.number == 1 ? "0" : field.number <= 3 ? "ignored" : PlainValue(field);
@@ -201,7 +201,7 @@ TEST_F(SkinLoaderTest, TakesTheHeadOfTheMenuForTheGenres) {
   EXPECT_EQ(form().menu.place(), design);
   WriteLayout("menu.ini");
   Skins().ApplySkin();
-  EXPECT_EQ(Skins().genre_style(), 1);
+  EXPECT_EQ(Skins().screens.genre_style(), 1);
   EXPECT_EQ(form().menu.place().height, 2.5F);
 }
 
@@ -234,14 +234,14 @@ TEST_F(SkinLoaderTest, GivesTheWindowItsFrameOrTheWholeScreen) {
   Skins().ApplySkin();
   EXPECT_THAT(calls, ElementsAre("SetWindowSize 1028 788"));
   EXPECT_EQ(form().form.place(), Rect({0, 0, 1024, 768}));
-  EXPECT_FALSE(Skins().mode_changed());
+  EXPECT_FALSE(Skins().screens.mode_changed());
   calls.clear();
   house().settings.full_screen = true;
   Skins().ApplySkin();
   EXPECT_THAT(calls,
               ElementsAre("SetWindowSize 1024 768", "ChangeResolution 1024 768",
                           "SetWindowPosition 1 1", "FitWindow 1 0", "SetTaskbarVisible 0 0"));
-  EXPECT_TRUE(Skins().mode_changed());
+  EXPECT_TRUE(Skins().screens.mode_changed());
   Write("resolution.ini", "a,b,c,0,2147483647");
   Skins().ApplySkin();
   EXPECT_EQ(form().form.place(), Rect({0, 0, 1, 8192}));
