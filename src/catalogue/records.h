@@ -19,15 +19,17 @@ struct RecordField {
 
 // The bytes of one record, blank at first. Fields come as they stand, blanks included, unless they
 // are asked for trimmed.
+inline std::string_view FieldOf(std::string_view record, RecordField field) {
+  return record.empty() ? record : record.substr(field.offset, field.width);
+}
+
 template <size_t Size>
 struct FixedRecord {
   static constexpr size_t kSize = Size;
   std::array<char, Size> bytes;
 
   FixedRecord() { bytes.fill(' '); }
-  std::string_view Field(RecordField field) const {
-    return std::string_view(bytes.data(), Size).substr(field.offset, field.width);
-  }
+  std::string_view Field(RecordField field) const { return FieldOf({bytes.data(), Size}, field); }
   std::string Trimmed(RecordField field) const { return std::string(TrimBlanks(Field(field))); }
 };
 

@@ -51,24 +51,28 @@ RecordFile::RecordFile(std::string_view path, size_t record_size)
 RecordFile::~RecordFile() { ::close(fd_); }
 
 void RecordFile::Read(int64_t n, std::span<char> record) {
+  const std::string_view bytes = View(n);
+  std::copy_n(bytes.data(), std::min(record.size(), bytes.size()), record.data());
+}
+
+std::string_view RecordFile::View(int64_t n) {
   if (n < 1) throw RuntimeFailure("there is no record " + std::to_string(n) + " in " + path_);
-  if (n > records_) return;
+  if (n > records_) return {};
   const int64_t size = static_cast<int64_t>(record_size_);
-  const int64_t held = static_cast<int64_t>(block_.size()) / size;
-  if (n < first_ || n >= first_ + held) {
+  if (n < first_ || n >= first_ + held_) {
     // A single record for a single question, a block for a scan.
     const int64_t wanted = n == last_asked_ + 1 ? std::max<int64_t>(1, kBlockBytes / size) : 1;
+    held_ = 0;
     block_.resize(static_cast<size_t>(std::min(wanted, records_ - n + 1) * size));
     const ssize_t got = ReadAt(fd_, block_, (n - 1) * size);
     if (got < 0) FailWithErrno("cannot read", path_);
     // The file may have been cut since it was opened.
-    block_.resize(static_cast<size_t>(got));
+    held_ = got / size;
     first_ = n;
   }
   last_asked_ = n;
-  const size_t offset = static_cast<size_t>((n - first_) * size);
-  const size_t length = std::min(record.size(), record_size_);
-  if (offset + length <= block_.size()) std::copy_n(block_.data() + offset, length, record.data());
+  if (n >= first_ + held_) return {};
+  return {block_.data() + (n - first_) * size, record_size_};
 }
 
 void AppendRecord(std::string_view path, std::span<const char> record) {

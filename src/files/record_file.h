@@ -29,15 +29,19 @@ class RecordFile {
   // the file the buffer keeps what it holds. Throws RuntimeFailure for a number below 1 and for a
   // read that fails.
   void Read(int64_t n, std::span<char> record);
+  // The same without a copy, for a scan that looks at a part of each record: the bytes where they
+  // lie, until the next call. Empty past the end of the file.
+  std::string_view View(int64_t n);
 
  private:
   std::string path_;
   size_t record_size_;
   int64_t records_ = 0;
   int fd_ = -1;
-  // What was read last, beginning at record first_.
+  // What was read last: held_ whole records from record first_ on.
   std::vector<char> block_;
   int64_t first_ = 0;
+  int64_t held_ = 0;
   int64_t last_asked_ = 0;
 };
 

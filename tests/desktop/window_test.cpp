@@ -182,6 +182,22 @@ TEST_F(WindowTest, StaysOpenUntilTheProgramLeaves) {
   EXPECT_TRUE(window->close());
 }
 
+TEST_F(WindowTest, AHandlerThatKeepsTheThreadIsPaintedAndNothingElseRuns) {
+  Start();
+  ShowWindow();
+  QtEventLoop loop;
+  bool ran = false;
+  QMetaObject::invokeMethod(
+      qApp, [&ran] { ran = true; }, Qt::QueuedConnection);
+  const int before = window->paints();
+  form().credits.SetCaption("changed");
+  loop.PaintNow();
+  EXPECT_EQ(window->paints(), before + 1);
+  EXPECT_FALSE(ran);
+  Settle();
+  EXPECT_TRUE(ran);
+}
+
 TEST(EventLoop, OtherTimersGoOnWhileAHandlerLetsEventsRun) {
   SystemClock clock;
   Timers timers(clock);

@@ -133,6 +133,19 @@ TEST(RecordFiles, GiveTheSameRecordsInAnyOrder) {
   }
 }
 
+TEST(RecordFiles, AFileCutWhileItIsOpenLeavesTheBuffer) {
+  const TempFolder folder;
+  folder.Write("all.rec", std::string(300000, 'a'));
+  RecordFile file(folder.path() + "\\all.rec", 100);
+  folder.Write("all.rec", std::string(150, 'b'));
+  std::string buffer(100, '?');
+  file.Read(2, buffer);
+  EXPECT_EQ(buffer, std::string(100, '?'));
+  EXPECT_EQ(file.View(3000), "");
+  file.Read(1, buffer);
+  EXPECT_EQ(buffer, std::string(100, 'b'));
+}
+
 TEST(RecordFiles, ATornRecordIsOverwrittenByTheNextOne) {
   const TempFolder folder;
   folder.Write("h.dat", "aaaabb");
