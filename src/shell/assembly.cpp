@@ -33,8 +33,10 @@ Assembly::Assembly(std::string path, Machine& ports)
       track_list(app_path, settings, catalogue, cursor, cover_layout, covers, pages, animation,
                  tags, fields, form1),
       play_options(settings, cursor, covers, credits, tags, fields, form1),
+      search(ports, settings, catalogue, cursor, covers, search_results, form1),
       charts(app_path, ports, settings, catalogue, cursor, covers, search_results, form1),
       decades(app_path, ports.clock, charts, form1.decades),
+      genres(app_path, cursor, pages, form1),
       history(app_path, ports.clock, catalogue, fields),
       history_view(app_path, catalogue, covers, play_options, track_list, form1),
       top20(settings, history.most_played(), covers, play_options, form1.top20),
@@ -58,6 +60,7 @@ Assembly::Assembly(std::string path, Machine& ports)
     network.WriteSpool({playback.play_now_flag, playback.play_next_flag, track});
     return true;
   };
+  search.on_record = [this] { state.idle_seconds = 0; };
   play_options.queue_count = [this] { return queue.count(); };
   skins.screens.hooks.set_track_rows = [this](int rows) { track_list.SetRowsPerPage(rows); };
   skins.screens.hooks.fit_video_window = [this] { engine.FitVideoWindow(); };

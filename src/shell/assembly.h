@@ -13,11 +13,13 @@
 #include "catalogue/carousel.h"
 #include "catalogue/charts.h"
 #include "catalogue/decades.h"
+#include "catalogue/genres.h"
 #include "catalogue/history.h"
 #include "catalogue/history_view.h"
 #include "catalogue/letter_jump.h"
 #include "catalogue/play_options.h"
 #include "catalogue/search_results.h"
+#include "catalogue/search.h"
 #include "catalogue/song_facts.h"
 #include "catalogue/top20.h"
 #include "catalogue/track_list.h"
@@ -100,8 +102,10 @@ struct Assembly {
   TrackList track_list;
   PlayOptions play_options;
   SearchResults search_results;
+  Search search;
   Charts charts;
   Decades decades;
+  Genres genres;
   History history;
   HistoryView history_view;
   Top20 top20;

@@ -7,9 +7,11 @@
 #include "playback/genre_lists.h"
 #include "shell/assembly.h"
 #include "shell/chart_ways.h"
+#include "shell/genre_ways.h"
 #include "shell/key_poll.h"
 #include "shell/menu.h"
 #include "shell/navigation.h"
+#include "shell/search_ways.h"
 #include "shell/settings_effects.h"
 #include "shell/shutdown.h"
 #include "shell/start_up.h"
@@ -28,17 +30,23 @@ class Jukebox {
         menu(house),
         navigation(house, menu),
         chart_ways(house, menu, navigation),
+        search_ways(house, menu, navigation),
+        genre_ways(house),
         keys(house, menu, navigation),
         shutdown(house) {
     shutdown.hooks.save_random = [this] { SaveGenreLists(house.app_path, house.lists); };
     house.calendar.swap_skin = [this](const std::string& name) { effects.PutOnSkin(name); };
-    start_up.hooks.ApplySkin = [this] { house.skins.ApplySkin(); };
+    start_up.hooks.ApplySkin = [this] { effects.ApplySkin(); };
     start_up.hooks.update_skinlist = [this] { house.skins.UpdateSkinList(); };
     ticks.hooks.PollKeys = [this] { keys.PollKeys(); };
     menu.hooks.power_down = [this] { shutdown.power_down(); };
     start_up.hooks.load_history_chart = [this](const std::string& path) {
       house.charts.load_history_chart(path);
     };
+    menu.hooks.reset_search = [this] { house.search.Reset(); };
+    menu.hooks.show_genres = [this] { house.genres.show_genres(); };
+    start_up.hooks.genre_scroll_show = [this] { house.genres.genre_scroll_show(); };
+    start_up.hooks.clear_search = [this] { house.search.suggestions().Clear(); };
     ticks.hooks.leave_program = [this] { shutdown.TimedExit(); };
   }
 
@@ -58,6 +66,8 @@ class Jukebox {
   Menu menu;
   Navigation navigation;
   ChartWays chart_ways;
+  SearchWays search_ways;
+  GenreWays genre_ways;
   KeyPoll keys;
   Shutdown shutdown;
 };

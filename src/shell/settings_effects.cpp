@@ -113,9 +113,14 @@ void SettingsEffects::ApplySelectedSkin() {
   house_.pages.SetPageValid(false);
 }
 
+void SettingsEffects::ApplySkin() {
+  house_.skins.ApplySkin();
+  house_.search.list_files = house_.skins.special_lists();
+}
+
 void SettingsEffects::PutOnSkin(const std::string& skin) {
   house_.settings.current_skin = skin;
-  house_.skins.ApplySkin();
+  ApplySkin();
   if (house_.lists.cover_layouts.empty()) {
     house_.pages.read_albums3();
   } else {

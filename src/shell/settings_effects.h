@@ -18,6 +18,8 @@ class SettingsEffects {
   // before the settings have been read, or with none picked.
   void ApplySelectedSkin();
   // The same for the skin of this name.
+  // The skin in force, with all that others take from it.
+  void ApplySkin();
   void PutOnSkin(const std::string& skin);
   // The skin's layouts, and the one with the setting's index; one that isn't in a list with items
   // throws RuntimeFailure.

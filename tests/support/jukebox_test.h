@@ -37,10 +37,16 @@ inline std::string AlbumBytes(const std::string& path, const std::string& artist
   return {record.bytes.data(), record.bytes.size()};
 }
 
-inline std::string TrackBytes(const std::string& path, const std::string& track) {
+inline std::string TrackBytes(const std::string& path, const std::string& track,
+                              const std::string& artist = "", const std::string& album = "") {
   TrackRecord record;
-  PutField(record.bytes, TrackRecord::kPath.offset, TrackRecord::kPath.width, path);
-  PutField(record.bytes, TrackRecord::kTrack.offset, TrackRecord::kTrack.width, track);
+  const auto put = [&](RecordField field, const std::string& text) {
+    PutField(record.bytes, field.offset, field.width, text);
+  };
+  put(TrackRecord::kPath, path);
+  put(TrackRecord::kTrack, track);
+  put(TrackRecord::kArtist, artist);
+  put(TrackRecord::kAlbum, album);
   return {record.bytes.data(), record.bytes.size()};
 }
 

@@ -1,0 +1,73 @@
+#include "catalogue/field_finder.h"
+
+#include <gtest/gtest.h>
+
+#include <random>
+
+#include "text/text.h"
+
+namespace sonotik {
+namespace {
+
+std::string Field(std::string text) {
+  text.resize(60, ' ');
+  return text;
+}
+
+TEST(FieldFinder, FindsATextAnywhereInTheTrimmedFieldWhateverTheCase) {
+  const std::string full(60, 'x');
+  const struct {
+    std::string text;
+    std::string field;
+    bool found;
+  } cases[] = {{"love", "All You Need Is Love", true},
+               {"ALL", "All You Need Is Love", true},
+               {"d i", "All You Need Is Love", true},
+               {"loves", "All You Need Is Love", false},
+               {"", "", true},
+               {" ", "Love", false},
+               {"E ", "Love", false},
+               {" me", "Love Me", true},
+               {"me", "  Me  ", true},
+               {" me", "  Me  ", false},
+               // Equal but for the bit that tells the cases apart, and yet no letters.
+               {"[", "{", false},
+               {"@", "`", false},
+               {"\x11", "1", false},
+               // Letters of two bytes come as they are, without a case.
+               {"\xC3\xA9t\xC3\xA9", "L'\xC3\xA9T\xC3\xA9", true},
+               {"\xC3\x89", "\xC3\xA9", false},
+               {"X", full, true},
+               {full, full, true},
+               {full + "x", full, false}};
+  for (const auto& c : cases) {
+    EXPECT_EQ(FieldFinder(c.text).IsIn(Field(c.field)), c.found) << c.text << " in " << c.field;
+  }
+}
+
+TEST(FieldFinder, AgreesWithAPlainSearchOverAnyBytes) {
+  std::mt19937 random(1);
+  const auto text = [&](size_t most, const std::string& from) {
+    std::string out(random() % (most + 1), ' ');
+    for (char& c : out) c = from[random() % from.size()];
+    return out;
+  };
+  const std::string few("aAbB \0\xE9", 7);
+  std::string all;
+  for (int c = 0; c < 256; ++c) all += static_cast<char>(c);
+  int found = 0;
+  for (int i = 0; i < 50000; ++i) {
+    const std::string& from = i % 2 == 0 ? few : all;
+    const std::string field = Field(text(60, from));
+    std::string key = text(4, from);
+    if (i % 3 == 0) key = LowerCase(field.substr(random() % 60, random() % 61));
+    const bool plain = UpperCase(TrimBlanks(field)).find(UpperCase(key)) != std::string::npos;
+    ASSERT_EQ(FieldFinder(key).IsIn(field), plain) << i;
+    found += plain ? 1 : 0;
+  }
+  EXPECT_GT(found, 10000);
+  EXPECT_LT(found, 40000);
+}
+
+}  // namespace
+}  // namespace sonotik

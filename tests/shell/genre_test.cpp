@@ -1,0 +1,155 @@
+// The genres, on their screen and on the bar.
+#include <gtest/gtest.h>
+
+#include "files/files.h"
+#include "support/jukebox_test.h"
+
+namespace sonotik {
+namespace {
+
+class GenreTest : public JukeboxTest {
+ protected:
+  GenreTest() { WriteAlbums({{"Day", "Ada"}, {"Night", "Bo"}}); }
+
+  void WriteGenre(const std::string& name) {
+    WriteAlbums({{name + " Hits", "Cy"}}, "genres/" + name + ".cvr");
+  }
+  void WriteGenres(int count) {
+    for (int i = 1; i <= count; ++i) WriteGenre("Genre " + LastDigits(i, 2));
+  }
+  void OpenScreen() { Click(form().menu_buttons[static_cast<size_t>(MenuButton::kGenres)]); }
+  void OpenBar() {
+    form().genre_style = 1;
+    OpenScreen();
+  }
+  lvButtons_H& Bar(size_t i) { return form().genre_buttons.buttons[i]; }
+  // The genres that can be chosen, as captions.
+  std::vector<std::string> OnScreen() {
+    std::vector<std::string> captions;
+    for (Label& label : form().genre.labels) {
+      if (label.showing()) captions.push_back(label.caption());
+    }
+    return captions;
+  }
+  std::vector<std::string> OnBar() {
+    std::vector<std::string> captions;
+    for (size_t i = 1; i <= 7; ++i) {
+      if (Bar(i).showing()) captions.push_back(Bar(i).caption());
+    }
+    return captions;
+  }
+  std::string FirstAlbum() { return house().pages.slots()[1].album; }
+  using Captions = std::vector<std::string>;
+};
+
+TEST_F(GenreTest, TheScreenPagesByTwentySevenAndChoosesOne) {
+  WriteGenres(30);
+  Start();
+  OpenScreen();
+  EXPECT_EQ(OnScreen().size(), 28U);
+  EXPECT_EQ(OnScreen()[1], "Genre 01");
+  Click(form().genre.up);
+  EXPECT_EQ(OnScreen()[1], "Genre 01");
+  Click(form().genre.down);
+  EXPECT_EQ(OnScreen(), Captions({"ALL GENRES", "Genre 28", "Genre 29", "Genre 30"}));
+  Click(form().genre.down);
+  EXPECT_EQ(OnScreen().size(), 4U);
+  house().cursor.SetPosition(CatalogueSource::kGenre, 9);
+  Click(form().genre.labels[2]);
+  EXPECT_TRUE(form().panel(screen::kAlbum).showing());
+  EXPECT_FALSE(form().panel(screen::kGenre).visible());
+  EXPECT_EQ(FirstAlbum(), "Genre 29 Hits");
+  EXPECT_EQ(house().cursor.position(), 1);
+  OpenScreen();
+  Click(form().genre.labels[0]);
+  EXPECT_EQ(house().cursor.source, CatalogueSource::kRecords);
+  EXPECT_EQ(FirstAlbum(), "Day");
+}
+
+TEST_F(GenreTest, ExactlyOnePageOfGenresHasNoOther) {
+  WriteGenres(27);
+  Start();
+  OpenScreen();
+  Click(form().genre.down);
+  EXPECT_EQ(OnScreen()[1], "Genre 01");
+  // A genre that comes while the jukebox runs is there at the next look.
+  WriteGenre("Aria");
+  Click(form().genre.down);
+  EXPECT_EQ(OnScreen(), Captions({"ALL GENRES", "Genre 27"}));
+}
+
+TEST_F(GenreTest, AnAmpersandIsDoubledForTheCaptionAlone) {
+  for (const char* name : {"R&B", "Drum & Bass", "Rock"}) WriteGenre(name);
+  Start();
+  OpenScreen();
+  EXPECT_EQ(OnScreen(), Captions({"ALL GENRES", "Drum && Bass", "R&&B", "Rock"}));
+  Click(form().genre.labels[2]);
+  EXPECT_EQ(FirstAlbum(), "R&B Hits");
+  OpenBar();
+  EXPECT_EQ(OnBar(), Captions({"ALL GENRES", "R&&B", "Rock"}));
+  Click(Bar(2));
+  EXPECT_EQ(house().cursor.genre_file, "R&B.cvr");
+  EXPECT_EQ(FirstAlbum(), "R&B Hits");
+}
+
+TEST_F(GenreTest, TheBarHidesTheFirstGenreAndScrollsBeyondTheLast) {
+  WriteGenres(9);
+  Start();
+  OpenBar();
+  EXPECT_EQ(OnBar(), Captions({"ALL GENRES", "Genre 02", "Genre 03", "Genre 04", "Genre 05",
+                               "Genre 06", "Genre 07"}));
+  Click(Bar(0));
+  EXPECT_EQ(OnBar().size(), 7U);
+  Click(Bar(8));
+  EXPECT_EQ(OnBar(), Captions({"Genre 08", "Genre 09"}));
+  Click(Bar(8));
+  Click(Bar(8));
+  EXPECT_TRUE(OnBar().empty());
+  for (int i = 0; i < 3; ++i) Click(Bar(0));
+  EXPECT_EQ(OnBar().front(), "ALL GENRES");
+  Click(Bar(9));
+  EXPECT_FALSE(form().genre_bar.visible());
+  EXPECT_TRUE(form().menu.visible());
+}
+
+TEST_F(GenreTest, AllGenresOnTheBarLeavesAnEmptyGenreOfThatName) {
+  for (const char* name : {"Blues", "Rock"}) WriteGenre(name);
+  Start();
+  OpenBar();
+  Click(Bar(2));
+  EXPECT_EQ(FirstAlbum(), "Rock Hits");
+  Click(Bar(1));
+  EXPECT_EQ(house().cursor.source, CatalogueSource::kRecords);
+  EXPECT_EQ(FirstAlbum(), "Day");
+  EXPECT_EQ(FileLength(folder.path() + "\\genres\\ALL GENRES.cvr"), 0);
+  // It comes first in the folder now, so the bar gains what it had hidden.
+  Click(Bar(8));
+  Click(Bar(0));
+  EXPECT_EQ(OnBar(), Captions({"ALL GENRES", "Blues", "Rock"}));
+}
+
+TEST_F(GenreTest, WithoutAFolderThereAreAllGenresAlone) {
+  Start();
+  OpenScreen();
+  EXPECT_EQ(OnScreen(), Captions({"ALL GENRES"}));
+  house().cursor.source = CatalogueSource::kVideos;
+  OpenBar();
+  EXPECT_EQ(OnBar(), Captions({"ALL GENRES"}));
+  Click(Bar(1));
+  EXPECT_EQ(house().cursor.source, CatalogueSource::kRecords);
+  EXPECT_EQ(FirstAlbum(), "Day");
+}
+
+TEST_F(GenreTest, AGenreDeletedWhileItIsListedComesBackEmpty) {
+  WriteGenre("Rock");
+  Start();
+  OpenScreen();
+  std::filesystem::remove(folder.native() / "genres" / "Rock.cvr");
+  Click(form().genre.labels[1]);
+  EXPECT_EQ(FileLength(folder.path() + "\\genres\\Rock.cvr"), 0);
+  EXPECT_TRUE(form().album.covers[0].cover.visible());
+  EXPECT_FALSE(form().album.covers[1].cover.visible());
+}
+
+}  // namespace
+}  // namespace sonotik

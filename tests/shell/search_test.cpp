@@ -1,0 +1,370 @@
+// A guest who looks for something: the keyboard, the suggestions, the results.
+#include <gtest/gtest.h>
+
+#include "files/files.h"
+#include "support/jukebox_test.h"
+
+namespace sonotik {
+namespace {
+
+class SearchTest : public JukeboxTest {
+ protected:
+  SearchTest() {
+    settings.add_all_to_queue = true;
+    WriteDefaults();
+  }
+
+  // A track file of these titles; each lies in an album folder of its own artist.
+  void WriteTracks(const std::vector<std::string>& titles, const std::string& file = "Records.rec",
+                   const std::string& artist = "Ada") {
+    std::string bytes;
+    for (const std::string& title : titles) {
+      bytes += TrackBytes(AlbumPath("Day") + title + ".wav", title, artist, "Day");
+    }
+    folder.Write(file, bytes);
+  }
+  std::vector<std::string> Numbered(int count) {
+    std::vector<std::string> titles;
+    for (int i = 1; i <= count; ++i) titles.push_back("Song " + std::to_string(i));
+    return titles;
+  }
+
+  void Type(const std::string& text) {
+    SearchScreen& screen = form().search;
+    for (const char c : text) {
+      Click(c == ' '   ? screen.keys[26]
+            : c == '<' ? screen.keys[27]
+            : c <= '9' ? screen.digits[static_cast<size_t>(c - '0')]
+                       : screen.keys[static_cast<size_t>(c - 'A')]);
+    }
+  }
+  void Begin(SearchMode mode, const std::string& text) {
+    Click(form().menu_buttons[static_cast<size_t>(MenuButton::kSearch)]);
+    Click(form().search_choice.modes[static_cast<size_t>(mode)]);
+    Type(text);
+  }
+  void Find(SearchMode mode, const std::string& text) {
+    Begin(mode, text);
+    Click(form().search.search);
+  }
+  SearchResultsScreen& Page() { return form().search_results; }
+  lvButtons_H& Command(ResultCommand command) {
+    return Page().commands[static_cast<size_t>(command)];
+  }
+  // The titles in view.
+  std::vector<std::string> Rows() {
+    std::vector<std::string> titles;
+    for (ResultRow& row : Page().rows) {
+      if (row.track.showing()) titles.push_back(row.track.caption());
+    }
+    return titles;
+  }
+  std::vector<std::string> Suggested() {
+    std::vector<std::string> lines;
+    for (Label& line : form().search.suggestions) lines.push_back(line.caption());
+    return lines;
+  }
+  using Lines = std::vector<std::string>;
+};
+
+TEST_F(SearchTest, AGuestTypesAWordAndHearsTheTrack) {
+  const std::string path = WriteTrack("Day", "2 Dusk.wav", "Ada", "Dusk");
+  folder.Write("music/Day/Cover.jpg", "x");
+  folder.Write("Records.rec", TrackBytes("\\gone.mp3", "Noon & Night", "Bo", "Day") +
+                                  TrackBytes(path, " Dusk", "Ada", "Day"));
+  Start();
+  Find(SearchMode::kTrack, "USL<K");
+  EXPECT_EQ(Page().heading.caption(), " 1 Songs Found, Matching (USK)");
+  ASSERT_EQ(Rows(), Lines{"Dusk"});
+  EXPECT_EQ(Page().rows[0].artist.caption(), "Ada");
+  EXPECT_EQ(Page().rows[0].number.caption(), " 1");
+  EXPECT_EQ(Page().rows[0].cover.picture(), AlbumPath("Day") + "Cover.jpg");
+  EXPECT_EQ(house().search.results().folders[0] + "\\", AlbumPath("Day"));
+  EXPECT_EQ(house().search.results().paths[0].size(), 255U);
+  EXPECT_FALSE(form().panel(screen::kSearch).visible());
+  EXPECT_FALSE(form().searching.panel.visible());
+
+  Click(Page().rows[0].blank);
+  EXPECT_EQ(form().play_options.title.caption(), "Dusk");
+  Click(form().play_options.cancel);
+  EXPECT_TRUE(form().panel(screen::kSearchResults).showing());
+  Click(Command(ResultCommand::kPlayNow));
+  EXPECT_EQ(machine.player.file, path);
+  // Names are shown as they are.
+  Find(SearchMode::kTrack, "NOON");
+  EXPECT_EQ(CaptionAsShown(Page().rows[0].track.caption()), "Noon & Night");
+}
+
+TEST_F(SearchTest, EachModeLooksAtItsOwnField) {
+  folder.Write("Records.rec", TrackBytes("\\1.mp3", "Alpha", "Beta", "Gamma") +
+                                  TrackBytes("\\2.mp3", "Beta", "Gamma", "Alpha") +
+                                  TrackBytes("\\3.mp3", "Gamma", "Alpha", "Beta"));
+  Start();
+  for (const auto& [mode, title] :
+       {std::pair(SearchMode::kTrack, "Beta"), std::pair(SearchMode::kArtist, "Alpha"),
+        std::pair(SearchMode::kAlbum, "Gamma")}) {
+    Find(mode, "BETA");
+    EXPECT_EQ(Rows(), Lines{title});
+  }
+}
+
+TEST_F(SearchTest, TheNinetyNinthHitEndsTheScanAndThePagesEndWithIt) {
+  WriteTracks(Numbered(120));
+  Start();
+  Find(SearchMode::kTrack, "SONG");
+  EXPECT_EQ(Page().heading.caption(), " 99 Songs Found, Matching (SONG)");
+  EXPECT_EQ(house().search.results().tracks[98], "Song 99");
+  EXPECT_EQ(house().search.results().tracks[99], "");
+  Click(Page().up);
+  EXPECT_EQ(Rows().front(), "Song 1");
+  for (int i = 0; i < 20; ++i) Click(Page().down);
+  EXPECT_EQ(Rows(), Lines({"Song 99"}));
+  EXPECT_EQ(Page().rows[0].number.caption(), " 99");
+  Click(Page().up);
+  EXPECT_EQ(Rows().front(), "Song 92");
+  // Exactly a page of results has no other.
+  WriteTracks(Numbered(7));
+  Find(SearchMode::kTrack, "SONG");
+  EXPECT_EQ(Rows().front(), "Song 1");
+  Click(Page().down);
+  EXPECT_EQ(Rows().front(), "Song 1");
+}
+
+TEST_F(SearchTest, WithoutATextTheKeyboardStays) {
+  WriteTracks(Numbered(3));
+  Start();
+  Find(SearchMode::kTrack, "A<<");
+  EXPECT_TRUE(form().panel(screen::kSearch).showing());
+  EXPECT_FALSE(form().panel(screen::kSearchResults).visible());
+}
+
+TEST_F(SearchTest, TheTabsSearchTheOtherFilesAndNewSongsHaveNone) {
+  WriteTracks({"Song A"});
+  WriteTracks({"Song V"}, "videos.rec");
+  settings.tab_karaoke = false;
+  WriteDefaults();
+  Start();
+  house().cursor.media_kind = kNewSongs;
+  Find(SearchMode::kTrack, "SONG");
+  EXPECT_EQ(Page().heading.caption(), " 0 Songs Found, Matching (SONG)");
+  EXPECT_TRUE(Rows().empty());
+  EXPECT_FALSE(Page().tabs[2].visible());
+  Click(Page().tabs[1]);
+  EXPECT_EQ(Rows(), Lines{"Song V"});
+  EXPECT_EQ(house().cursor.media_kind, kVideo);
+  Click(Page().rows[0].track);
+  Click(form().play_options.cancel);
+  EXPECT_TRUE(Command(ResultCommand::kPlayNow).visible());
+  // What was chosen among the videos is no choice among the audio tracks.
+  Click(Page().tabs[0]);
+  EXPECT_EQ(Rows(), Lines{"Song A"});
+  EXPECT_FALSE(Command(ResultCommand::kPlayNow).visible());
+  EXPECT_EQ(house().search.ChosenPath(), "");
+}
+
+TEST_F(SearchTest, TheCommandsActOnTheTrackChosenAlsoFromAnotherPage) {
+  WriteTracks(Numbered(20));
+  Start();
+  Find(SearchMode::kTrack, "SONG");
+  EXPECT_FALSE(Command(ResultCommand::kAddToQueue).visible());
+  Click(Page().rows[1].number);
+  Click(form().play_options.cancel);
+  EXPECT_TRUE(Page().rows[1].track.highlighted());
+  Click(Page().down);
+  EXPECT_FALSE(Page().rows[1].track.highlighted());
+  Click(Command(ResultCommand::kAddToQueue));
+  Click(Page().rows[0].artist);
+  Click(form().play_options.cancel);
+  Click(Command(ResultCommand::kPlayNext));
+  ASSERT_EQ(house().queue.count(), 2);
+  EXPECT_EQ(house().queue.path(0), AlbumPath("Day") + "Song 8.wav");
+  EXPECT_EQ(house().queue.path(1), AlbumPath("Day") + "Song 2.wav");
+  EXPECT_TRUE(form().panel(screen::kSearchResults).showing());
+  house().settings.auto_back_on_selection = true;
+  Click(Command(ResultCommand::kAddToQueue));
+  EXPECT_TRUE(form().panel(screen::kAlbum).showing());
+}
+
+TEST_F(SearchTest, AddAllPaysForEachTrackAndStopsWithTheCredits) {
+  WriteTracks(Numbered(20));
+  settings.enable_credit_mode = true;
+  WriteDefaults();
+  // Everything costs 2.
+  folder.Write("cost.dat", " 1 \r\n 1 \r\n 1 \r\n 1 \r\n 1 \r\n 1 \r\n 1 \r\n 1 \r\n 1 \r\n");
+  Start();
+  machine.coins.put("5");
+  Find(SearchMode::kTrack, "SONG");
+  Click(Command(ResultCommand::kAddAllToQueue));
+  EXPECT_EQ(house().queue.count(), 2);
+  EXPECT_EQ(house().credits.count(), 1);
+  house().settings.enable_credit_mode = false;
+  Click(Command(ResultCommand::kAddAllToQueue));
+  EXPECT_EQ(house().queue.count(), 22);
+  EXPECT_EQ(house().queue.path(21), AlbumPath("Day") + "Song 20.wav");
+}
+
+TEST_F(SearchTest, ANewSearchKeepsTheFirstResultAlone) {
+  WriteTracks(Numbered(9));
+  Start();
+  Find(SearchMode::kTrack, "SONG");
+  Click(Command(ResultCommand::kNewSearch));
+  EXPECT_TRUE(form().panel(screen::kSearchChoice).showing());
+  const SearchResults& results = house().search.results();
+  EXPECT_EQ(results.tracks[0], "Song 1");
+  for (const SearchResults::List* list :
+       {&results.paths, &results.artists, &results.tracks, &results.albums, &results.folders}) {
+    EXPECT_EQ(std::count(list->begin() + 1, list->end(), ""), 100);
+  }
+  // And the next search keeps nothing of it.
+  Click(form().search_choice.modes[0]);
+  Type("X");
+  Click(form().search.search);
+  EXPECT_EQ(results.tracks[0], "");
+}
+
+TEST_F(SearchTest, AlbumsAreSuggestedWhileSomebodyTypes) {
+  WriteAlbums(
+      {{"Dawn", "Ada"}, {"Noon", "ABBA & Bo"}, {"Night", "Abe"}, {"Nook", "Bo"}, {"Dusk", "Cy"}});
+  WriteTrack("Night", "1.wav", "Abe", "Owls");
+  Start();
+  Begin(SearchMode::kArtist, "AB");
+  EXPECT_EQ(Suggested(), Lines({"ABBA && Bo - Noon", "Abe - Night", "", ""}));
+  // The blanks behind a name belong to it here.
+  Type("E ");
+  EXPECT_EQ(Suggested(), Lines({"Abe - Night", "", "", ""}));
+  Type("X");
+  EXPECT_EQ(Suggested(), Lines({"", "", "", ""}));
+  // Without a text the file begins.
+  Click(form().search.clear);
+  EXPECT_EQ(Suggested(), Lines({"Ada - Dawn", "ABBA && Bo - Noon", "Abe - Night", "Bo - Nook"}));
+  Type("ABE");
+  Click(form().search.suggestions[0]);
+  EXPECT_TRUE(form().panel(screen::kTrackList).showing());
+  EXPECT_FALSE(form().panel(screen::kAlbum).visible());
+  EXPECT_NE(form().track_list.rows[0].title.caption().find("Owls"), std::string::npos);
+
+  Begin(SearchMode::kAlbum, "NO");
+  EXPECT_EQ(Suggested(), Lines({"ABBA && Bo - Noon", "", "Bo - Nook", ""}));
+  // Tracks have none, and a new mode begins without any.
+  Begin(SearchMode::kTrack, "N");
+  EXPECT_EQ(Suggested(), Lines({"", "", "", ""}));
+}
+
+TEST_F(SearchTest, TheLastAlbumCanBeSeenAndNotChosen) {
+  WriteAlbums({{"Dawn", "Ada"}, {"Dusk", "Cy"}});
+  Start();
+  Begin(SearchMode::kArtist, "CY");
+  EXPECT_EQ(Suggested()[0], "Cy - Dusk");
+  Click(form().search.suggestions[0]);
+  EXPECT_FALSE(form().panel(screen::kTrackList).visible());
+  // The new songs and a genre have an index, but no suggestions.
+  house().cursor.source = CatalogueSource::kNew;
+  Type("<");
+  EXPECT_EQ(Suggested()[0], "");
+  EXPECT_FALSE(FileExists(folder.path() + "\\new.cvr"));
+}
+
+TEST_F(SearchTest, TheNoteThatItSearchesIsPaintedFirstAndItsBarMoves) {
+  WriteTracks(Numbered(5000));
+  Start();
+  std::vector<int> painted;
+  machine.events.on_paint = [&] {
+    EXPECT_TRUE(form().searching.panel.showing());
+    EXPECT_EQ(form().form.children().back(), &form().searching.panel);
+    painted.push_back(form().searching.progress.value());
+  };
+  const int pumps = machine.events.pumps;
+  int64_t records = 0;
+  house().search.on_record = [&, idle = house().search.on_record] {
+    idle();
+    ++records;
+    machine.clock.Add(1);
+  };
+  Begin(SearchMode::kTrack, "NOWHERE");
+  house().state.idle_seconds = 50;
+  house().search.search(SearchMode::kTrack);
+  EXPECT_EQ(records, 5000);
+  EXPECT_EQ(house().state.idle_seconds, 0);
+  EXPECT_EQ(painted, std::vector<int>({0, 1024, 2048, 3072, 4096}));
+  EXPECT_EQ(form().searching.progress.max(), 5000);
+  EXPECT_FALSE(form().searching.panel.visible());
+  // Nothing but painting may run while the file is read.
+  EXPECT_EQ(machine.events.pumps, pumps);
+}
+
+TEST_F(SearchTest, ASpecialListLeadsToAnEmptyPage) {
+  WriteTracks(Numbered(9));
+  Start();
+  house().search.list_files[1] = folder.path() + "\\lists\\best.txt";
+  Find(SearchMode::kTrack, "SONG");
+  Page().list_panel.SetVisible(true);
+  Page().lists[1].SetVisible(true);
+  Click(Page().lists[1]);
+  EXPECT_TRUE(Rows().empty());
+  EXPECT_TRUE(form().panel(screen::kSearchResults).showing());
+  EXPECT_FALSE(Page().list_panel.visible());
+  EXPECT_FALSE(form().searching.panel.visible());
+  EXPECT_EQ(form().searching.progress.max(), 500);
+  for (lvButtons_H& command : Page().commands) EXPECT_FALSE(command.visible());
+}
+
+TEST_F(SearchTest, TheSearchKeyBeginsAfresh) {
+  folder.Write("keyboard.dat", [] {
+    std::string lines;
+    for (int slot = 0; slot < 35; ++slot) lines += slot == 15 ? " 83 \r\n" : "-1 \r\n";
+    return lines;
+  }());
+  Start();
+  Begin(SearchMode::kArtist, "ADA");
+  Click(form().search.back);
+  machine.keys.down = {83};
+  machine.events.on_pump = [this] { machine.keys.down.clear(); };
+  Advance(0.1);
+  EXPECT_TRUE(form().panel(screen::kSearch).showing());
+  EXPECT_EQ(form().search.entry.caption(), "");
+}
+
+TEST_F(SearchTest, ATrackFileThatCantBeReadShowsAPageAllTheSame) {
+  Start();
+  std::filesystem::remove(folder.native() / "Records.rec");
+  std::filesystem::create_directory(folder.native() / "Records.rec");
+  Find(SearchMode::kTrack, "SONG");
+  EXPECT_EQ(house().boundary.failures(), 1);
+  EXPECT_FALSE(form().searching.panel.visible());
+  EXPECT_EQ(Page().heading.caption(), " 0 Songs Found, Matching (SONG)");
+  EXPECT_TRUE(form().panel(screen::kSearchResults).showing());
+}
+
+TEST_F(SearchTest, FilesOfAnyBytesAndAnyLengthFindWhatIsWhole) {
+  std::string tracks;
+  std::string albums;
+  for (int i = 0; i < 6; ++i) {
+    tracks += TrackBytes("\\" + std::to_string(i), "Song");
+    albums += AlbumBytes("\\x\\", "Song", "Song", "?");
+  }
+  std::mt19937 random(2);
+  Start();
+  const size_t track_end = tracks.size();
+  for (size_t cut = 0; cut <= 2 * TrackRecord::kSize; ++cut) {
+    folder.Write("Records.rec", tracks.substr(0, track_end - cut));
+    folder.Write("Records.cvr", albums.substr(0, albums.size() - std::min(cut, albums.size())));
+    house().search.SetSearchText(cut % 2 == 0 ? "SONG" : "SON");
+    house().search.search(SearchMode::kTrack);
+    ASSERT_EQ(house().search.result_count(), static_cast<int>((track_end - cut) / 447)) << cut;
+    house().search.suggestions().Show(SearchMode::kAlbum, "SONG");
+  }
+  for (int i = 0; i < 300; ++i) {
+    std::string bytes(random() % 3000, ' ');
+    for (char& c : bytes) c = static_cast<char>(random());
+    folder.Write("Records.rec", bytes);
+    folder.Write("Records.cvr", bytes);
+    house().search.SetSearchText(std::string(1, static_cast<char>(random())));
+    house().search.search(static_cast<SearchMode>(random() % 3));
+    house().search.search_show();
+    house().search.suggestions().Show(SearchMode::kArtist, "A");
+  }
+  EXPECT_EQ(house().boundary.failures(), 0);
+}
+
+}  // namespace
+}  // namespace sonotik
