@@ -35,6 +35,9 @@ inline void MakeJukebox(const TempFolder& folder, int albums, int tracks, int pl
   for (int i = 0; i < tracks; ++i) {
     TrackRecord record;
     put(record, TrackRecord::kPath, folder.path() + "\\music\\" + std::to_string(i) + ".mp3");
+    put(record, TrackRecord::kArtist, "The Players of " + LastDigits(i / 10, 5));
+    put(record, TrackRecord::kTrack, "Song " + std::to_string(i) + " of a Long Evening");
+    put(record, TrackRecord::kAlbum, "Evenings, Volume " + std::to_string(i / 10));
     bytes.append(record.bytes.data(), record.bytes.size());
   }
   folder.Write("Records.rec", bytes);
