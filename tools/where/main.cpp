@@ -26,6 +26,8 @@ void SayAll(const Form1& form) {
   for (size_t i = 0; i < form.menu_buttons.size(); ++i) {
     Say("menu" + std::to_string(i), form.menu_buttons[i]);
   }
+  Say("menu_search", form.menu_buttons[static_cast<size_t>(MenuButton::kSearch)]);
+  Say("menu_genres", form.menu_buttons[static_cast<size_t>(MenuButton::kGenres)]);
   Say("menu_queue", form.menu_buttons[static_cast<size_t>(MenuButton::kShowQueue)]);
   Say("menu_carousel", form.menu_buttons[static_cast<size_t>(MenuButton::kCarousel)]);
   Say("menu_album", form.menu_buttons[static_cast<size_t>(MenuButton::kAlbumView)]);
@@ -56,6 +58,18 @@ void SayAll(const Form1& form) {
   }
   Say("queue_back", form.queue.back);
   Say("full_screen", form.now_playing.full_screen);
+  for (size_t i = 0; i < form.search_choice.modes.size(); ++i) {
+    Say("mode" + std::to_string(i), form.search_choice.modes[i]);
+  }
+  for (size_t i = 0; i < 26; ++i) {
+    Say(std::string("key_") + static_cast<char>('A' + i), form.search.keys[i]);
+  }
+  Say("suggestion1", form.search.suggestions[1]);
+  Say("search", form.search.search);
+  Say("result0", form.search_results.rows[0].track);
+  Say("results_down", form.search_results.down);
+  Say("results_add", form.search_results.commands[static_cast<size_t>(ResultCommand::kAddToQueue)]);
+  for (const size_t i : {0, 10}) Say("genre" + std::to_string(i), form.genre.labels[i]);
 }
 
 // The files alone: no screen is shown, so what a jukebox does beside reading them isn't needed.
