@@ -9,6 +9,18 @@ namespace {
 // Between the edge of a plate and its text.
 constexpr float kPlateMargin = 8;
 
+// A field of a record comes with all its blanks, and where a text wraps they would take a line of
+// their own.
+std::string WithoutBlanksAtLineEnds(const std::string& text) {
+  std::string kept;
+  for (const char character : text) {
+    if (character == '\n') kept.resize(kept.find_last_not_of(' ') + 1);
+    kept += character;
+  }
+  kept.resize(kept.find_last_not_of(' ') + 1);
+  return kept;
+}
+
 }  // namespace
 
 std::string CaptionAsShown(const std::string& caption) {
@@ -31,8 +43,9 @@ void Label::Paint(Canvas& canvas) const {
   if (plate) canvas.FillRect(inner, highlighted_ ? back_color_ : *plate_, 4);
   if (caption_.empty()) return;
   const float margin = plate ? kPlateMargin : 0;
-  canvas.DrawText(CaptionAsShown(caption_), {margin, 0, inner.width - 2 * margin, inner.height},
-                  style_);
+  std::string shown = CaptionAsShown(caption_);
+  if (style_.wrap) shown = WithoutBlanksAtLineEnds(shown);
+  canvas.DrawText(shown, {margin, 0, inner.width - 2 * margin, inner.height}, style_);
 }
 
 void PictureBox::Paint(Canvas& canvas) const {

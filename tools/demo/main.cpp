@@ -1,4 +1,5 @@
-// Makes the demo jukebox's media in a folder: FOLDER/music, FOLDER/videos and FOLDER/karaoke.
+// Makes the demo jukebox's media in a folder: FOLDER/music, FOLDER/videos and FOLDER/karaoke; and
+// what its guests have played so far, with the charts.
 #include <QBuffer>
 #include <QDir>
 #include <QFile>
@@ -18,6 +19,8 @@
 #include "tools/demo/albums.h"
 #include "tools/demo/karaoke.h"
 #include "tools/demo/media.h"
+#include "tools/demo/popular.h"
+#include "tools/demo/shelves.h"
 #include "tools/demo/video.h"
 
 namespace sonotik::demo {
@@ -32,14 +35,6 @@ uint64_t SeedOf(const QString& text) {
     hash = (hash ^ static_cast<uint8_t>(byte)) * 1099511628211ULL;
   }
   return hash;
-}
-
-QString ShelfOf(Format format) {
-  return format == Format::kVideo ? "videos" : format == Format::kKaraoke ? "karaoke" : "music";
-}
-
-QString FolderOf(const Album& album) {
-  return ShelfOf(album.format) + "/" + album.artist + " - " + album.title;
 }
 
 void MakeFolder(const QString& path) {
@@ -61,36 +56,35 @@ void MakeTrack(const Album& album, int number, const QString& folder) {
   const Track& track = album.tracks[number];
   const QString title = track.title;
   const Style& style = track.style != nullptr ? *track.style : *album.style;
-  const char* artist = track.artist != nullptr ? track.artist : album.artist;
+  const QString artist = ArtistOf(album, static_cast<size_t>(number));
   const char* composer = track.artist != nullptr ? track.artist : album.composer;
   const SongTags tags{title, artist, album.title, album.genre, composer, album.year, number + 1};
-  const QString name =
-      QString("%1/%2 - %3").arg(folder).arg(number + 1, 2, 10, QChar('0')).arg(title);
+  const QString file = folder + "/" + FileOf(album, static_cast<size_t>(number));
   const uint64_t seed = SeedOf(QString(album.title) + title);
   const Piece piece{seed, track.bars, track.key, number, 1 + ((seed >> 8) % 9 - 4.0) / 100};
   if (album.format == Format::kVideo) {
-    EncodeVideo(album, track, piece, name + ".mpg");
+    EncodeVideo(album, track, piece, file);
     return;
   }
   if (album.format == Format::kKaraoke) {
     const KaraokeSong song = MakeKaraoke(album);
-    EncodeMp3(song.sound, tags, album.mp3, {}, folder + "/" + title + ".mp3");
+    EncodeMp3(song.sound, tags, album.mp3, {}, file);
     WriteFile(folder + "/" + title + ".cdg", song.graphics);
     return;
   }
   const Recording recording = Play(style, Compose(style, piece), seed);
   switch (album.format) {
     case Format::kWma:
-      EncodeWma(recording, tags, name + ".wma");
+      EncodeWma(recording, tags, file);
       break;
     case Format::kM4a:
-      EncodeM4a(recording, tags, name + ".m4a");
+      EncodeM4a(recording, tags, file);
       break;
     case Format::kWav:
-      EncodeWav(recording, tags, name + ".wav");
+      EncodeWav(recording, tags, file);
       break;
     default:
-      EncodeMp3(recording, tags, album.mp3, CoverJpeg(album, 200), name + ".mp3");
+      EncodeMp3(recording, tags, album.mp3, CoverJpeg(album, 200), file);
   }
 }
 
@@ -154,16 +148,8 @@ void MakeMedia(const QString& root, const QString& part) {
   }
 }
 
-int Run(const QString& root) {
-  MakeFolder(root);
-  QLockFile lock(root + "/.media.lock");
-  lock.setStaleLockTime(0);  // a run may take its time; only a dead one gives its lock away
-  if (!lock.lock()) throw DemoFailure("cannot write in " + root);
-  const QString stamp = root + "/media.stamp", part = root + "/.media.part";
-  if (QFile::exists(stamp) && ReadFile(stamp) == kStamp) {
-    std::printf("The demo media are already in %s\n", qUtf8Printable(root));
-    return 0;
-  }
+void MakeAllMedia(const QString& root, const QString& stamp) {
+  const QString part = root + "/.media.part";
   std::printf("Making the demo media in %s\n", qUtf8Printable(root));
   std::fflush(stdout);
   // What an interrupted run left behind.
@@ -174,7 +160,20 @@ int Run(const QString& root) {
   if (!done.open(QIODevice::WriteOnly) || done.write(kStamp) < 0 || !done.commit()) {
     throw DemoFailure("cannot write " + stamp);
   }
-  return 0;
+}
+
+void Run(const QString& root) {
+  MakeFolder(root);
+  QLockFile lock(root + "/.media.lock");
+  lock.setStaleLockTime(0);  // a run may take its time; only a dead one gives its lock away
+  if (!lock.lock()) throw DemoFailure("cannot write in " + root);
+  const QString stamp = root + "/media.stamp";
+  if (QFile::exists(stamp) && ReadFile(stamp) == kStamp) {
+    std::printf("The demo media are already in %s\n", qUtf8Printable(root));
+  } else {
+    MakeAllMedia(root, stamp);
+  }
+  MakePopular(root, QDate::currentDate());
 }
 
 }  // namespace
@@ -191,7 +190,8 @@ int main(int argc, char** argv) {
     return 2;
   }
   try {
-    return sonotik::demo::Run(QDir(arguments[1]).absolutePath());
+    sonotik::demo::Run(QDir(arguments[1]).absolutePath());
+    return 0;
   } catch (const std::exception& failure) {
     std::fprintf(stderr, "sonotik-demo: %s\n", failure.what());
     return 1;

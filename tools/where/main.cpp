@@ -28,6 +28,9 @@ void SayAll(const Form1& form) {
   }
   Say("menu_search", form.menu_buttons[static_cast<size_t>(MenuButton::kSearch)]);
   Say("menu_genres", form.menu_buttons[static_cast<size_t>(MenuButton::kGenres)]);
+  Say("menu_history", form.menu_buttons[static_cast<size_t>(MenuButton::kHistory)]);
+  Say("menu_top20", form.menu_buttons[static_cast<size_t>(MenuButton::kTop20)]);
+  Say("menu_decades", form.menu_buttons[static_cast<size_t>(MenuButton::kDecades)]);
   Say("menu_queue", form.menu_buttons[static_cast<size_t>(MenuButton::kShowQueue)]);
   Say("menu_carousel", form.menu_buttons[static_cast<size_t>(MenuButton::kCarousel)]);
   Say("menu_album", form.menu_buttons[static_cast<size_t>(MenuButton::kAlbumView)]);
@@ -70,6 +73,14 @@ void SayAll(const Form1& form) {
   Say("results_down", form.search_results.down);
   Say("results_add", form.search_results.commands[static_cast<size_t>(ResultCommand::kAddToQueue)]);
   for (const size_t i : {0, 10}) Say("genre" + std::to_string(i), form.genre.labels[i]);
+  Say("history0", form.history.rows[0].text);
+  Say("history_page_up", form.history.steps[static_cast<size_t>(HistoryStep::kPageUp)]);
+  Say("top20_row0", form.top20.rows[0].track);
+  Say("month", form.decades.month_caption);
+  Say("month_before", form.decades.steps[0]);
+  Say("month_back", form.decades.month_back);
+  Say("year", form.decades.year_caption);
+  Say("year_back", form.decades.year_back);
 }
 
 // The files alone: no screen is shown, so what a jukebox does beside reading them isn't needed.
