@@ -71,7 +71,8 @@ void LayOutTrackList(Sheet& sheet) {
     // The text keeps off the plate's edges.
     TakeLeft(title, d.picture_gap, 0);
     sheet.Text("trackList.title", i, title, Type::kBody, Ink::kPlate);
-    sheet.Text("trackList.time", i, {length.left, length.top, length.width - 8, length.height},
+    // It overlaps the title, so that both are marked as one.
+    sheet.Text("trackList.time", i, {length.left - 8, length.top, length.width, length.height},
                Type::kBody, Ink::kPlateMuted);
   }
   sheet.SetColor("trackList.lines", 0, FieldKind::kForeColor, d.InkOf(Ink::kPlate));

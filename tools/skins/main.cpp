@@ -6,24 +6,6 @@
 
 #include "tools/skins/screens.h"
 
-namespace sonotik::skins {
-namespace {
-
-void Make(const Design& design, const QString& folder) {
-  Sheet sheet(design, folder + "/" + design.name);
-  LayOutFrame(sheet);
-  LayOutLists(sheet);
-  LayOutSearch(sheet);
-  LayOutDecades(sheet);
-  LayOutOthers(sheet);
-  WriteCoverPages(sheet);
-  PaintPreview(sheet);
-  sheet.WriteFiles();
-}
-
-}  // namespace
-}  // namespace sonotik::skins
-
 int main(int argc, char** argv) {
   // It paints, but shows nothing, and so runs on machines without a screen.
   qputenv("QT_QPA_PLATFORM", "offscreen");

@@ -54,15 +54,15 @@ void LayOutNowPlaying(Sheet& sheet) {
   Rect bottom = TakeBottom(left, d.button_height, d.margin);
   sheet.Button("nowPlaying.fullScreen", 0, TakeLeft(bottom, wide ? 280 : 176, 0), "FULLSCREEN",
                Look::kPlain);
-  const float side = std::min(left.width, left.height) - 12;
-  const Rect cover = Centered(left, side, side);
-  sheet.Box("nowPlaying.cover", 0, cover);
-  const Rect frame = cover.Inset(wide ? -8 : -6);
-  sheet.Box("nowPlaying.coverFrame", 0, frame);
-  WriteCoverFrame(sheet, frame);
   const float tall = std::min(left.height, std::round(left.width * 9 / 16));
-  sheet.Box("nowPlaying.video", 0,
-            Whole({left.left, left.top + (left.height - tall) / 2, left.width, tall}));
+  const Rect video = Whole({left.left, left.top + (left.height - tall) / 2, left.width, tall});
+  sheet.Box("nowPlaying.video", 0, video);
+  // The cover stays behind a video, and must not look out beside it.
+  const float edge = wide ? 8 : 6;
+  const Rect frame = Centered(video, video.height, video.height);
+  sheet.Box("nowPlaying.coverFrame", 0, frame);
+  sheet.Box("nowPlaying.cover", 0, frame.Inset(edge));
+  WriteCoverFrame(sheet, frame);
 
   Rect names{column.left, content.top, content.right() - column.left, content.height};
   sheet.Text("nowPlaying.track", 1, TakeTop(names, wide ? 76 : 52, 0), Type::kDisplay, Ink::kStage);
