@@ -220,6 +220,8 @@ void TrackList::ShowRowCommands() {
   }
 }
 
-std::string TrackList::PathOfRow(int row) const { return album_files_.PathAt(page_top_ + row); }
+std::string TrackList::PathOfRow(int row) const {
+  return row < 0 ? "" : album_files_.PathAt(page_top_ + row);
+}
 
 }  // namespace sonotik

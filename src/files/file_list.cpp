@@ -33,8 +33,9 @@ std::vector<std::string> NamesIn(std::string_view folder, Keep keep) {
   for (fs::directory_iterator entry(NativePath(folder), error), end; !error && entry != end;
        entry.increment(error)) {
     std::string name = entry->path().filename().string();
-    // Every list that holds paths is one of lines; a name of two lines would be two entries there.
-    if (name.find_first_of("\r\n") != std::string::npos) continue;
+    // Every list that holds paths is one of lines; a name of two lines would be two entries there,
+    // and a backslash in a name would be a folder.
+    if (name.find_first_of("\r\n\\") != std::string::npos) continue;
     if (keep(*entry, name)) names.push_back(std::move(name));
   }
   std::sort(names.begin(), names.end(), LessIgnoringCase);

@@ -120,9 +120,12 @@ const Queue::Names& Queue::NamesOf(const std::string& path, std::map<std::string
   LineWriter writer;
   try {
     tags_.ReadFor(TagCaller::kQueueUpl, path);
-    writer.Text(fields_.txtArtist);
-    writer.Text(fields_.txtTitle);
-    writer.Text(fields_.txtAlbum);
+    for (std::string text : {fields_.txtArtist, fields_.txtTitle, fields_.txtAlbum}) {
+      // A line each, whatever a tag holds.
+      std::replace_if(
+          text.begin(), text.end(), [](char c) { return c == '\r' || c == '\n'; }, ' ');
+      writer.Text(text);
+    }
     names.lines = writer.text();
   } catch (const RuntimeFailure&) {
     // One damaged file must not keep the others out of the list.

@@ -237,6 +237,8 @@ void Navigation::WireQueue() {
 }
 
 void Navigation::PlayQueueEntry() {
+  // Another start is under way: this touch takes nothing and loses nothing.
+  if (choosing_) return;
   // Charges anew, and the entry goes even if the credits refused it; that is meant.
   const std::string path = house_.queue.path(house_.queue_view.selection());
   house_.queue_view.HideRowCommands();
