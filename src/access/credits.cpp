@@ -64,7 +64,8 @@ std::optional<int> Credits::ChargeForSelection(int media_kind, bool play_now, bo
 }
 
 void Credits::GiveBack(int price) {
-  count_ += price;
+  // A coin may have come meanwhile.
+  count_ = std::min<int>(count_ + price, std::numeric_limits<int16_t>::max());
   ShowCreditState();
 }
 

@@ -27,7 +27,7 @@ TrackList::TrackList(const std::string& app_path, const Settings& settings, Cata
 void TrackList::Open(const std::string& album_path) {
   page_top_ = 0;
   SelectRow(-1);
-  // Shown first: a damaged tag ends the filling, and the rows before it can still be chosen.
+  // Shown first: what the guest waits for is the screen.
   form1_.ShowScreen(screen::kTrackList);
   // The files as they are now; turning pages of one visit keeps to one list.
   album_files_.Refresh();
@@ -59,7 +59,6 @@ void TrackList::track_List2(const std::string& album_path) {
   screen_.cover.SetPicture(covers_.FindCoverPicture(folder));
 
   compilation_ = false;
-  // All rows first: a tag that fails must not leave the names of another album standing.
   for (TrackRow& row : screen_.rows) {
     row.title.SetVisible(false);
     row.time.SetVisible(false);
@@ -82,7 +81,7 @@ void TrackList::FillRow(int row, int file) {
   TrackRow& labels = screen_.rows[static_cast<size_t>(row)];
   labels.title.SetVisible(true);
   labels.time.SetVisible(true);
-  tags_.ReadFor(TagCaller::kTrackList, album_files_.PathAt(file));
+  tags_.ReadForRow(TagCaller::kTrackList, album_files_.PathAt(file));
   std::string title = fields_.txtTitle;
   if (settings_.use_filename_if_no_tag && (title == kNoTag || title.empty())) {
     title = album_files_.NameAt(file);

@@ -129,6 +129,15 @@ void DeleteFileIfThere(std::string_view path) {
   }
 }
 
+void RenameFile(std::string_view from, std::string_view to) {
+  std::error_code error;
+  fs::rename(NativePath(from), NativePath(to), error);
+  if (error) {
+    errno = error.value();
+    FailWithErrno("cannot rename", from);
+  }
+}
+
 void MakeFolder(std::string_view path) {
   std::error_code error;
   fs::create_directories(NativePath(path), error);

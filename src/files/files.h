@@ -38,6 +38,9 @@ void AppendToFile(std::string_view path, std::string_view bytes);
 // No error if it isn't there; throws RuntimeFailure if it can't be deleted.
 void DeleteFileIfThere(std::string_view path);
 
+// Over a file of that name too. Throws RuntimeFailure, and then nothing has changed.
+void RenameFile(std::string_view from, std::string_view to);
+
 // With the folders above it; no error if it is there. Throws RuntimeFailure.
 void MakeFolder(std::string_view path);
 

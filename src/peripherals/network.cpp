@@ -34,10 +34,8 @@ void Network::LoadTerminal() {
   FieldReader reader(ReadWholeFile(path));
   reader.Skip();
   shared_folder_ = reader.Text();
-  master_ = reader.Truth();
-  terminal_ = reader.Truth();
-  // One of two options: a station that handed its selections to itself would never end.
-  if (terminal_) master_ = false;
+  const bool master = reader.Truth();
+  SetRole(master, reader.Truth());
 }
 
 void Network::SaveTerminal() const {
@@ -50,8 +48,9 @@ void Network::SaveTerminal() const {
 }
 
 void Network::SetRole(bool master, bool terminal) {
-  master_ = master;
   terminal_ = terminal;
+  // One of two options: a station that handed its selections to itself would never end.
+  master_ = master && !terminal;
 }
 
 void Network::WriteSpool(const SpooledSelection& selection) const {
@@ -71,18 +70,20 @@ void Network::WriteSpool(const SpooledSelection& selection) const {
 
 std::optional<SpooledSelection> Network::ReadSpool() {
   spool_files_.SetFolder(app_path_);
+  ForgetGoneFiles();
   for (int i = 0; i < spool_files_.count(); ++i) {
     served_ = spool_files_.PathAt(i);
-    const FileStamp stamp = StampOf(served_);
-    // Still being written, no file at all, none of ours, or served already and not to be deleted.
+    const FileStamp stamp = served_stamp_ = StampOf(served_);
+    // Just begun, no file at all, or none of ours.
     if (stamp.size <= 0 || stamp.size > kLongestSpool || !FileExists(served_)) continue;
-    if (served_ == stuck_ && stamp == stuck_stamp_) continue;
+    const auto waits = waiting_.find(served_);
+    if (waits != waiting_.end() && waits->second.served && waits->second.stamp == stamp) continue;
     try {
       const std::string text = ReadWholeFile(served_);
       if (StillWritten(stamp, text)) continue;
       return Parse(text);
     } catch (const RuntimeFailure&) {
-      RemoveSpool();
+      TakeAway([this] { RenameFile(served_, served_ + ".bad"); });
       throw;
     }
   }
@@ -91,18 +92,25 @@ std::optional<SpooledSelection> Network::ReadSpool() {
 
 bool Network::StillWritten(const FileStamp& stamp, const std::string& text) {
   if (std::count(text.begin(), text.end(), '\n') >= 3) return false;
-  if (served_ != unfinished_ || !(stamp == unfinished_stamp_)) looks_ = 0;
-  unfinished_ = served_;
-  unfinished_stamp_ = stamp;
+  Waiting& waiting = waiting_[served_];
+  if (!(stamp == waiting.stamp)) waiting = {stamp};
   // Whoever writes by hand may leave the last line open for good.
-  return ++looks_ < kPatience;
+  return ++waiting.looks < kPatience;
 }
 
 void Network::RemoveSpool() {
-  stuck_ = served_;
-  stuck_stamp_ = StampOf(served_);
-  DeleteFileIfThere(served_);
-  stuck_.clear();
+  TakeAway([this] { DeleteFileIfThere(served_); });
+}
+
+template <typename Take>
+void Network::TakeAway(Take take) {
+  waiting_[served_] = {served_stamp_, 0, true};
+  take();
+  waiting_.erase(served_);
+}
+
+void Network::ForgetGoneFiles() {
+  std::erase_if(waiting_, [](const auto& entry) { return !FileExists(entry.first); });
 }
 
 }  // namespace sonotik

@@ -3,6 +3,7 @@
 #ifndef SONOTIK_PERIPHERALS_NETWORK_H_
 #define SONOTIK_PERIPHERALS_NETWORK_H_
 
+#include <map>
 #include <optional>
 #include <string>
 
@@ -37,16 +38,28 @@ class Network {
   // Terminal: writes the selection under the first free name, "Queue.QUE", "Queue 1.QUE", ... Two
   // that choose one name at the same moment both write into it, and the first of them is taken.
   void WriteSpool(const SpooledSelection& selection) const;
-  static constexpr int kPatience = 300;
+  // Looks at a spool file, ten seconds of them at a hundred a second.
+  static constexpr int kPatience = 1000;
   // Master: the first spool file of the own folder, for Remove to delete once it is served. One
-  // whose third line hasn't ended is being written and waits, until it has stood still for
-  // kPatience looks; one that can't be read is deleted at once, or nothing behind it would ever be
-  // served, and throws RuntimeFailure.
+  // whose third line hasn't ended is being written and is passed over, until it has stood still for
+  // kPatience looks. One that is no selection goes out of the way, its name and ".bad", or nothing
+  // behind it would ever be served, and throws RuntimeFailure.
   std::optional<SpooledSelection> ReadSpool();
   void RemoveSpool();
 
  private:
+  // A file that stays where it is, as it was at the last look.
+  struct Waiting {
+    FileStamp stamp;
+    int looks = 0;
+    // Served, and not to be deleted: it is not served again.
+    bool served = false;
+  };
   bool StillWritten(const FileStamp& stamp, const std::string& text);
+  // Runs what takes the served file away; while it can't, the file counts as served.
+  template <typename Take>
+  void TakeAway(Take take);
+  void ForgetGoneFiles();
 
   const std::string& app_path_;
   std::string shared_folder_;
@@ -54,13 +67,8 @@ class Network {
   bool terminal_ = false;
   FileList spool_files_{"*.que"};
   std::string served_;
-  // The file that isn't whole yet, as it was at the last look, and the looks since it changed.
-  std::string unfinished_;
-  FileStamp unfinished_stamp_;
-  int looks_ = 0;
-  // A served file that can't be deleted, as it then was: it is not served again.
-  std::string stuck_;
-  FileStamp stuck_stamp_;
+  FileStamp served_stamp_;
+  std::map<std::string, Waiting> waiting_;  // by path
 };
 
 }  // namespace sonotik

@@ -17,6 +17,9 @@ struct PlaybackState {
   // The box "Enable Random Play" can be ticked; on a Terminal it can't.
   bool random_play_available = true;
   bool paused = false;
+  // Starts under way. They let events run, and another track begun in there would lose its play to
+  // the one that goes on behind it.
+  int starting = 0;
   // How many tracks the player was given so far.
   unsigned long opened = 0;
   // Of the track started last; the folder ends in "\".

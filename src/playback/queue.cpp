@@ -80,9 +80,11 @@ bool Queue::Contains(const std::string& path) const {
 void Queue::Load() {
   Clear();
   const std::string file = app_path_ + "\\queue.dat";
-  if (!FileExists(file)) return;
+  loaded_ = !FileExists(file);
+  if (loaded_) return;
   // Whole lines: a comma in a path is part of it.
   LineReader reader(ReadWholeFile(file));
+  loaded_ = true;
   const double entries = NumberOrZero(reader.Next());
   // One pair more than there are entries; the last one is empty.
   for (double i = 0; entries > 0 && i <= entries; ++i) {

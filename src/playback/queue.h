@@ -40,6 +40,8 @@ class Queue {
   // queue.dat. Paths are not checked; a missing file or a count of 0 or below clears the queue. A
   // file cut short keeps the entries that are whole, and the failure is thrown on.
   void Load();
+  // Whatever queue.dat held was read: saving loses nothing.
+  bool loaded() const { return loaded_; }
   void Save() const;
   void DeleteSaved() const;
   // queue.upl, for outside use: the same with artist, title and album of each entry.
@@ -60,6 +62,7 @@ class Queue {
   const TagFields& fields_;
   std::vector<std::string> paths_;
   std::vector<std::string> covers_;
+  bool loaded_ = false;
   // Of the last rewrite of queue.upl; a file that hasn't changed since isn't read again.
   std::map<std::string, Names> exported_;
 };

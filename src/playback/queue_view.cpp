@@ -34,6 +34,7 @@ void QueueView::Update_queue2() {
   } else if (selection_ == -1) {
     HideRowCommands();
   }
+  // A short list may be scrolled into empty rows; only a longer one is pulled back.
   if (queue_.count() > 4 && top_ + kQueueRows > queue_.count()) {
     top_ = queue_.count() - kQueueRows;
   }
@@ -43,7 +44,7 @@ void QueueView::Update_queue2() {
     number.SetVisible(!queue_.path(top_ + row).empty());
   }
   for (int row = 0; row < kQueueRows; ++row) {
-    // By the row alone, also when the list is scrolled.
+    // By the row alone, also when the list is scrolled; that is meant.
     screen_.rows[static_cast<size_t>(row)].touch.SetHighlighted(selection_ == row);
     FillRow(row);
   }
@@ -57,12 +58,12 @@ void QueueView::FillRow(int row) {
   const std::string& path = queue_.path(entry);
   if (path.empty()) return EmptyRow(row);
   QueueRow& labels = screen_.rows[static_cast<size_t>(row)];
-  tags_.ReadFor(TagCaller::kUpdateQueue, path);
+  labels.cover.SetPicture(covers_.OrNotFound(queue_.cover(entry)));
+  tags_.ReadForRow(TagCaller::kUpdateQueue, path);
   labels.artist.SetCaption("Artist : " + fields_.txtArtist);
   labels.track.SetCaption("Track : " + fields_.txtTitle);
   labels.album.SetCaption("Album : " + fields_.txtAlbum);
   labels.time.SetCaption(" (" + fields_.txtmp3time + ")");
-  labels.cover.SetPicture(covers_.OrNotFound(queue_.cover(entry)));
   if (row == 0) {
     form1_.now_playing.next_song_artist.SetCaption(fields_.txtArtist);
     form1_.now_playing.next_song_title.SetCaption(fields_.txtTitle);
@@ -83,13 +84,14 @@ void QueueView::show_next() {
   screen.next_song.SetVisible(true);
   screen.next_song_cover.SetVisible(true);
   screen.next_song_cover.SetPicture(covers_.OrNotFound(queue_.cover(0)));
-  tags_.ReadFor(TagCaller::kShowNext, queue_.path(0));
+  tags_.ReadForRow(TagCaller::kShowNext, queue_.path(0));
   screen.next_song_artist.SetCaption(fields_.txtArtist);
   screen.next_song_title.SetCaption(fields_.txtTitle);
 }
 
 void QueueView::CLear_queue() {
   queue_.Clear();
+  // Five rows but four numbers: the next song has none.
   for (int row = 0; row < kQueueRows; ++row) {
     screen_.rows[static_cast<size_t>(row)].touch.SetHighlighted(false);
     EmptyRow(row);
@@ -104,6 +106,8 @@ void QueueView::remove_queue() { queue_.RemoveAt(selection_); }
 void QueueView::PressRow(int row) {
   const int entry = top_ + row;
   if (settings_.read_only_queue || queue_.path(row == 0 ? 0 : entry).empty()) return;
+  // In a scrolled list the first row chooses the entry that stands at the top of the window, not
+  // the one that it shows; that is meant.
   selection_ = entry;
   const auto show = [&](QueueCommand command, bool visible) {
     screen_.commands[static_cast<size_t>(command)].SetVisible(visible);

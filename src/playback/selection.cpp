@@ -32,17 +32,19 @@ void Selection::add_queue4(const std::string& path) {
     if (state_.opened == opened) credits_.GiveBack(*price);
     throw;
   }
-  if (settings_.use_second_monitor && !play_now) {
-    tags_.ReadFor(TagCaller::kAddQueue, path);
-    if (!state_.random_in_progress) announce(play_next);
-  }
   try {
-    view_.show_next();
+    // Also on a Terminal, where the track itself is queued elsewhere.
+    if (settings_.use_second_monitor && !play_now) {
+      tags_.ReadFor(TagCaller::kAddQueue, path);
+      if (!state_.random_in_progress) announce(play_next);
+    }
   } catch (const RuntimeFailure&) {
-    // The next song's damaged tag is no matter of the list for others.
+    // A damaged tag is no matter of the screen and the list for others.
+    view_.show_next();
     queue_.Export();
     throw;
   }
+  view_.show_next();
   queue_.Export();
 }
 

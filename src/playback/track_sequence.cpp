@@ -27,6 +27,11 @@ void TrackSequence::Play_track3(std::string path) {
   if (!FileExists(path)) return;
   // Whatever fails behind this point, the tick goes on.
   const TimerHold hold(state_timer_);
+  const struct Starting {
+    int& count;
+    explicit Starting(int& starting) : count(++starting) {}
+    ~Starting() { --count; }
+  } starting(state_.starting);
 
   // Muted here and never opened again; that is meant.
   if (settings_.mute_line_in_on_play) hooks.mute_line_in();

@@ -58,7 +58,6 @@ struct ShellState {
   // The display mode found at start.
   DisplayMode saved_mode;
   bool attract_settings_loaded = false;
-  bool queue_loaded = false;
   bool shutting_down = false;
 };
 

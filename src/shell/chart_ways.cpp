@@ -64,9 +64,7 @@ void ChartWays::WireTop20() {
 void ChartWays::ChooseTop20(PlayWay way) {
   // By value: a start adds to the table.
   const std::string path = house_.top20.chosen_path();
-  if (path.empty()) return;
-  navigation_.Choose(path, way);
-  navigation_.AfterAdding(screen::kTop20);
+  if (!path.empty()) navigation_.ChooseOn(screen::kTop20, path, way);
 }
 
 void ChartWays::WireDecades() {

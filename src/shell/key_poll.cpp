@@ -140,7 +140,11 @@ void KeyPoll::PollFromAnywhere() {
     menu_.hooks.reset_search();
     menu_.Show(screen::kSearch);
   });
-  On(kShowQueue, [this] { menu_.Show(screen::kQueue); });
+  On(kShowQueue, [this] {
+    // As the guest left it, chosen row and all, but with the songs that it holds now.
+    house_.queue_view.Update_queue2();
+    menu_.Show(screen::kQueue);
+  });
   On(kOptions, [this] { menu_.EnterOptions(); });
   On(kDecades, [this] { menu_.Show(screen::kDecades); });
   On(kCarouselView, [this] {

@@ -154,25 +154,25 @@ void Navigation::DoubleClickTrackRow(int row) {
   static constexpr PlayWay kWays[] = {PlayWay::kPlayNow, PlayWay::kPlayNext, PlayWay::kAddToQueue};
   const int action = house_.settings.double_click_action;
   if (action < 0 || action > 2) return;
-  Choose(path, kWays[action]);
-  AfterAdding(screen::kTrackList);
+  ChooseOn(screen::kTrackList, path, kWays[action]);
 }
 
-void Navigation::Choose(const std::string& path, PlayWay way) {
+bool Navigation::Choose(const std::string& path, PlayWay way) {
   // A start lets events run, and the second of two quick taps must not pay again.
-  if (choosing_) return;
-  choosing_ = true;
+  if (way == PlayWay::kPlayNow && house_.playback.starting > 0) return false;
   // By then it is charged and added: what fails behind that (a list for others, a tag) must not
   // leave the guest on a screen that asks again.
   house_.boundary.Run("add_queue4", [&] { house_.selection.Choose(path, way); });
-  choosing_ = false;
+  return true;
+}
+
+void Navigation::ChooseOn(size_t screen, const std::string& path, PlayWay way) {
+  if (Choose(path, way) && house_.form1.panel(screen).visible()) AfterAdding(screen);
 }
 
 void Navigation::ChooseRow(PlayWay way) {
   const std::string path = house_.track_list.PathOfRow(house_.track_list.selected_row());
-  if (path.empty()) return;
-  Choose(path, way);
-  AfterAdding(screen::kTrackList);
+  if (!path.empty()) ChooseOn(screen::kTrackList, path, way);
 }
 
 void Navigation::AddEntireAlbum() {
@@ -211,7 +211,7 @@ void Navigation::WirePlayOptions() {
 void Navigation::ChoosePlayOption(PlayWay way) {
   // By value: adding reads other tracks.
   const std::string path = house_.play_options.path();
-  Choose(path, way);
+  if (!Choose(path, way) || !house_.form1.panel(screen::kPlayOptions).visible()) return;
   house_.play_options.Close();
   AfterAdding(house_.play_options.calling_screen());
 }
@@ -237,8 +237,7 @@ void Navigation::WireQueue() {
 }
 
 void Navigation::PlayQueueEntry() {
-  // Another start is under way: this touch takes nothing and loses nothing.
-  if (choosing_) return;
+  if (house_.playback.starting > 0) return;
   // Charges anew, and the entry goes even if the credits refused it; that is meant.
   const std::string path = house_.queue.path(house_.queue_view.selection());
   house_.queue_view.HideRowCommands();

@@ -17,10 +17,11 @@ class Navigation {
   // Hundredths of a decibel, for the slider, the setting and the track that plays.
   void SetVolume(int value);
   // Adds or plays by the way chosen; what fails behind the charge is no failure of the caller.
-  void Choose(const std::string& path, PlayWay way);
-  // Where the guest stands once a track is added: on the screen that he came from, or, if asked
-  // for, on the album pages.
-  void AfterAdding(size_t calling_screen);
+  // False, and nothing is taken: "Play Now" while a track starts, since it would lose its play.
+  bool Choose(const std::string& path, PlayWay way);
+  // The same from a screen, and then the way back: to the album pages if that is asked for, else
+  // the screen stays. A guest who has gone elsewhere while the track started is left there.
+  void ChooseOn(size_t screen, const std::string& path, PlayWay way);
   void ToggleFullScreen();
 
  private:
@@ -33,6 +34,7 @@ class Navigation {
   template <typename Handler>
   void OnClick(Control& control, const char* name, Handler handler);
 
+  void AfterAdding(size_t calling_screen);
   void ChooseRow(PlayWay way);
   void ChoosePlayOption(PlayWay way);
   void AddEntireAlbum();
@@ -40,7 +42,6 @@ class Navigation {
 
   Assembly& house_;
   Menu& menu_;
-  bool choosing_ = false;
   // The video box's own place while it fills the screen.
   Rect video_place_;
 };

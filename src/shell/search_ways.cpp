@@ -134,18 +134,21 @@ void SearchWays::PressCommand(ResultCommand command) {
       return house_.form1.ShowScreen(screen::kSearchChoice);
     case ResultCommand::kAddAllToQueue:
       AddAll();
-      break;
+      if (house_.settings.auto_back_on_selection) menu_.Back();
+      return;
     case ResultCommand::kPlayNow:
-      navigation_.Choose(house_.search.ChosenPath(), PlayWay::kPlayNow);
-      break;
+      return Choose(PlayWay::kPlayNow);
     case ResultCommand::kPlayNext:
-      navigation_.Choose(house_.search.ChosenPath(), PlayWay::kPlayNext);
-      break;
+      return Choose(PlayWay::kPlayNext);
     case ResultCommand::kAddToQueue:
-      navigation_.Choose(house_.search.ChosenPath(), PlayWay::kAddToQueue);
-      break;
+      return Choose(PlayWay::kAddToQueue);
   }
-  if (house_.settings.auto_back_on_selection) menu_.Back();
+}
+
+void SearchWays::Choose(PlayWay way) {
+  // By value: the charts share the table, and one of them may be loaded while a track starts.
+  const std::string path = house_.search.ChosenPath();
+  navigation_.ChooseOn(screen::kSearchResults, path, way);
 }
 
 void SearchWays::AddAll() {

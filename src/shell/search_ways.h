@@ -26,6 +26,7 @@ class SearchWays {
   void SearchFrom(size_t screen_index);
   void PressRow(int row);
   void PressCommand(ResultCommand command);
+  void Choose(PlayWay way);
   void AddAll();
 
   Assembly& house_;

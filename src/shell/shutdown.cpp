@@ -39,7 +39,7 @@ void Shutdown::GiveBackDesktop() {
 void Shutdown::SaveQueue() {
   // Unsaved, the queue of an earlier end stays and returns at the next start; that is meant. A
   // queue that was never read is not this run's to replace.
-  if (!house_.settings.save_queue_on_shutdown || !house_.state.queue_loaded) return;
+  if (!house_.settings.save_queue_on_shutdown || !house_.queue.loaded()) return;
   house_.boundary.Run("queue.dat", [this] { house_.queue.Save(); });
 }
 

@@ -122,7 +122,6 @@ void StartUp::Load(const char* name, const char* milestone, const std::function<
 void StartUp::LoadDataFiles() {
   Load("queue.dat", "QUEUE Load Complete", [&] {
     house_.queue_view.CLear_queue();
-    house_.state.queue_loaded = true;
     house_.queue.Load();
   });
   Load("keyboard.dat", "Key Load Complete", [&] { house_.key_map.LoadKeyMap(); });

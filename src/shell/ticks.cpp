@@ -23,18 +23,22 @@ Ticks::Ticks(Assembly& house) : house_(house) {
 
 void Ticks::StateTick() {
   const TimerHold off(house_.state_timer);
-  CheckCalendar();
-  TickTicker();
-  house_.fact_display.TickSongFacts();
-  TickIdle();
-  ShowClock();
+  // Each by itself: a missing picture or a damaged calendar must not silence the music.
+  Boundary& boundary = house_.boundary;
+  boundary.Run("calendar", [this] { CheckCalendar(); });
+  boundary.Run("ticker", [this] { TickTicker(); });
+  boundary.Run("song facts", [this] { house_.fact_display.TickSongFacts(); });
+  boundary.Run("attract mode", [this] { TickIdle(); });
+  boundary.Run("clock", [this] { ShowClock(); });
   if (ItIsTimeToLeave()) return hooks.leave_program();
-  EndTrack();
-  if (house_.engine.MediaIsPlaying() || house_.playback.paused) {
-    ShowPosition();
-  } else {
-    PickWhatComesNext();
-  }
+  boundary.Run("next track", [this] {
+    EndTrack();
+    if (house_.engine.MediaIsPlaying() || house_.playback.paused) {
+      ShowPosition();
+    } else {
+      PickWhatComesNext();
+    }
+  });
   if (house_.queue.path(0).empty()) house_.form1.now_playing.next_song.SetVisible(false);
 }
 
@@ -125,7 +129,8 @@ void Ticks::StartQueueHead() {
   const std::string cover = house_.queue.cover(0);
   {
     // A track whose start fails leaves the queue all the same: kept, it would be tried for ever
-    // and nothing behind it would play.
+    // and nothing behind it would play. It is entry 0 that goes, also if the queue was changed
+    // while the start let events run; that is meant.
     const struct Remove {
       Queue& queue;
       ~Remove() { queue.RemoveAt(0); }
@@ -134,10 +139,11 @@ void Ticks::StartQueueHead() {
     // Over the cover that the start has shown, and also over a track that was gone; that is meant.
     house_.tracks.ShowCover(house_.covers.OrNotFound(cover));
   }
-  if (house_.settings.shuffle_queue_each_play) house_.queue.shuffle_queue();
-  // A guest who looks at the queue must see what his next touch acts on.
-  if (house_.settings.shuffle_queue_each_play || house_.form1.panel(screen::kQueue).visible()) {
+  if (house_.settings.shuffle_queue_each_play) {
+    house_.queue.shuffle_queue();
     house_.queue_view.Update_queue2();
+  } else {
+    ShowQueueAsItIs();
   }
   house_.queue_view.show_next();
 }
@@ -179,12 +185,20 @@ void Ticks::TakeSpoolFile() {
   house_.playback.play_now_flag = selection->play_now_flag;
   house_.playback.play_next_flag = selection->play_next_flag;
   house_.selection.add_queue4(selection->path);
+  ShowQueueAsItIs();
+}
+
+void Ticks::ShowQueueAsItIs() {
+  // A guest who looks at the queue must see what his next touch acts on.
+  if (house_.form1.panel(screen::kQueue).visible()) house_.queue_view.Update_queue2();
 }
 
 void Ticks::Poll() {
   const TimerHold off(house_.timer1);
-  // One file a poll; what fails in it leaves the credits and the keys alone.
-  if (house_.network.master()) {
+  // One file a poll; what fails in it leaves the credits and the keys alone. While a track starts
+  // the files wait: played now, one would lose its turn, and in the machine's own start it would be
+  // free.
+  if (house_.network.master() && house_.playback.starting == 0) {
     house_.boundary.Run("spool file", [this] { TakeSpoolFile(); });
   }
   house_.credits.ShowCreditState();

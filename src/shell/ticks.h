@@ -41,6 +41,7 @@ class Ticks {
   void CountDeadAir();
   void ClearPlayingInfoOnce();
   void TakeSpoolFile();
+  void ShowQueueAsItIs();
 
   Assembly& house_;
 };

@@ -145,6 +145,15 @@ void TagReader::ReadTagSidecar(std::string_view path) {
   ReadSidecarText(ReadWholeFile(sidecar), fields_);
 }
 
+void TagReader::ReadForRow(TagCaller caller, std::string_view path) {
+  try {
+    ReadFor(caller, path);
+  } catch (const RuntimeFailure&) {
+    SetNoTag(kNoTag);
+    fields_.txtmp3time = "";
+  }
+}
+
 void TagReader::SetNoTag(std::string_view title) {
   fields_.txtTitle = title;
   for (const auto field :

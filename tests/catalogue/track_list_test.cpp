@@ -89,15 +89,60 @@ TEST_F(TrackListTest, TheStripShowsTheArtistsOtherAlbums) {
   EXPECT_FALSE(form().track_list.quick_jump_left.visible());
 }
 
-TEST_F(TrackListTest, ADamagedSidecarEndsTheHandlerAndNothingElse) {
+TEST_F(TrackListTest, ADamagedSidecarIsNoTagAndHidesNoOtherRow) {
   WriteTrack("Bad", "1.wav");
+  WriteTrack("Bad", "2.wav", "Ada", "Noon");
   folder.Write("music/Bad/1.wav.tag", "<a>\r\n<b>\r\n");
   WriteAlbums({{"Bad", "Ada"}});
   Start();
   Click(form().album.covers[0].cover);
-  EXPECT_EQ(house().boundary.failures(), 1);
-  EXPECT_TRUE(house().state_timer.enabled());
-  Click(form().album.next);
+  EXPECT_EQ(Row(0), "No Tag");
+  EXPECT_EQ(Row(1), "Ada - Noon");
+  EXPECT_FALSE(form().track_list.rows[0].time.visible());
+  Click(form().track_list.rows[0].title);
+  EXPECT_EQ(form().play_options.title.caption(), "No Tag");
+  EXPECT_TRUE(form().play_options.add_to_queue.visible());
+}
+
+TEST_F(TrackListTest, AnAdultTrackAsksForThePinAlsoWithDoubleClicksOn) {
+  folder.Write("music/Late/1.wav", "x");
+  std::string sidecar = Sidecar("Ada", "Late", "Late", "0:30");
+  sidecar.replace(sidecar.find("<genre>"), 7, "<genre>Adult");
+  folder.Write("music/Late/1.wav.tag", sidecar);
+  WriteAlbums({{"Late", "Ada"}});
+  settings.enable_double_click = true;
+  WriteDefaults();
+  Start();
+  Click(form().album.covers[0].cover);
+  Click(form().track_list.rows[0].title);
+  EXPECT_TRUE(form().pin_screen.visible());
+  EXPECT_FALSE(form().panel(screen::kPlayOptions).visible());
+}
+
+TEST_F(TrackListTest, ADoubleClickDoesWhatTheOperatorChose) {
+  const std::string path = WriteTrack("Two", "1.wav");
+  WriteTrack("Two", "2.wav");
+  WriteAlbums({{"Two", "Ada"}});
+  settings.enable_double_click = true;
+  WriteDefaults();
+  const struct {
+    int action;
+    bool plays;
+    int place;  // of the track in a queue of one other
+  } cases[] = {{0, true, -1}, {1, false, 0}, {2, false, 1}, {3, false, -1}};
+  for (const auto& c : cases) {
+    Start();
+    house().settings.double_click_action = c.action;
+    house().queue.Append("\\m\\other.wav", "");
+    Click(form().album.covers[0].cover);
+    const Rect row = form().track_list.rows[0].title.AbsolutePlace();
+    Click(form().track_list.rows[0].title);
+    form().form.DoubleClickMouse({row.left + 5, row.top + 5});
+    EXPECT_EQ(machine.player.file == path, c.plays) << c.action;
+    EXPECT_EQ(house().queue.IndexOf(path, 0), c.place) << c.action;
+    jukebox.reset();
+    machine.player = TestPlayer();
+  }
 }
 
 }  // namespace

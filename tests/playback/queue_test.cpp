@@ -98,6 +98,112 @@ TEST_F(QueueTest, APartOfALongerPathCountsAsADuplicate) {
   EXPECT_FALSE(queue().Contains("\\m\\other.mp3"));
 }
 
+TEST_F(QueueTest, ADuplicateIsFoundThroughTheNameOfASidecarToo) {
+  const std::string path = WriteTrack("Q", "1.wav");
+  settings.allow_duplicates_in_queue = false;
+  WriteDefaults();
+  Start();
+  queue().Append(path, "");
+  house().play_options.show_play_options(path + ".tag", screen::kTrackList);
+  EXPECT_EQ(form().play_options.message.caption(), "Track Already In Queue");
+}
+
+TEST_F(QueueTest, TheExportReadsAgainOnlyWhatHasChanged) {
+  settings.use_second_monitor = true;
+  WriteDefaults();
+  const std::string path = WriteTrack("Q", "1.wav", "Ada", "Dawn");
+  const std::string damaged = WriteTrack("Q", "2.wav");
+  folder.Write("music/Q/2.wav.tag", "too short");
+  Start();
+  house().selection.Choose(path, PlayWay::kAddToQueue);
+  WriteTrack("Q", "1.wav", "Ada Two", "Dawn");
+  // What can't be announced is in the list all the same.
+  EXPECT_THROW(house().selection.Choose(damaged, PlayWay::kAddToQueue), RuntimeFailure);
+  const std::string text = folder.Read("queue.upl");
+  EXPECT_EQ(text.substr(0, 5), " 2 \r\n");
+  EXPECT_NE(text.find("Ada Two\r\n"), std::string::npos);
+}
+
+TEST_F(QueueTest, AQueueThatCouldNotBeReadIsNotReplaced) {
+  // A file whose reading fails in the middle of a disk that works.
+  std::filesystem::create_symlink("/proc/self/mem", folder.native() / "queue.dat");
+  Start();
+  EXPECT_GE(house().boundary.failures(), 1);
+  jukebox->LeaveInOrder();
+  EXPECT_TRUE(std::filesystem::is_symlink(folder.native() / "queue.dat"));
+}
+
+class QueueScreenTest : public QueueTest {
+ protected:
+  QueueScreenTest() { folder.Write("terminal.ini", "x\r\n\r\nTrue\r\nFalse\r\n"); }
+  // Seven songs behind one that plays; the screen shows.
+  void Open() {
+    for (int i = 0; i < 8; ++i) {
+      paths.push_back(WriteTrack("Q", std::to_string(i) + ".wav", "Ada", "T" + std::to_string(i)));
+    }
+    Start();
+    machine.player.lengths[paths[0]] = 9000;
+    house().selection.Choose(paths[0], PlayWay::kPlayNow);
+    for (size_t i = 1; i < paths.size(); ++i) queue().Append(paths[i], "");
+    jukebox->menu.Open(MenuButton::kShowQueue);
+  }
+  std::string Rows() {
+    std::string text;
+    for (const QueueRow& row : form().queue.rows) {
+      const std::string& caption = row.track.caption();
+      text += (caption.empty() ? "-" : caption.substr(8)) + (row.touch.highlighted() ? "* " : " ");
+    }
+    return text;
+  }
+  std::vector<std::string> paths;
+};
+
+TEST_F(QueueScreenTest, ScrollsBehindTheNextSongAndStopsAtTheEnd) {
+  Open();
+  EXPECT_EQ(Rows(), "T1 T2 T3 T4 T5 ");
+  Click(form().queue.up);
+  Click(form().queue.down);
+  EXPECT_EQ(Rows(), "T1 T3 T4 T5 T6 ");
+  EXPECT_EQ(form().queue.rows[1].number.caption(), "3");
+  for (int i = 0; i < 5; ++i) Click(form().queue.down);
+  EXPECT_EQ(Rows(), "T1 T4 T5 T6 T7 ");
+  // The chosen entry counts the scrolling, the highlight doesn't.
+  Click(form().queue.rows[1].touch);
+  EXPECT_EQ(house().queue_view.selection(), 3);
+  EXPECT_EQ(Rows(), "T1 T4 T5 T6* T7 ");
+  Click(form().queue.commands[static_cast<size_t>(QueueCommand::kMoveDown)]);
+  EXPECT_EQ(house().queue_view.selection(), 4);
+  EXPECT_EQ(Rows(), "T1 T5 T4 T6 T7* ");
+}
+
+TEST_F(QueueScreenTest, MoveDownFollowsTheEntryAndStopsAtTheLast) {
+  Open();
+  while (queue().count() > 2) queue().RemoveAt(2);
+  house().queue_view.Update_queue2();
+  Click(form().queue.rows[0].touch);
+  for (int i = 0; i < 3; ++i) {
+    Click(form().queue.commands[static_cast<size_t>(QueueCommand::kMoveDown)]);
+    EXPECT_EQ(Rows(), "T2 T1* - - - ");
+  }
+}
+
+TEST_F(QueueScreenTest, ShowsAtOnceWhatAStationPutBeforeTheRows) {
+  Open();
+  folder.Write("Queue.QUE", " 0 \r\n 1 \r\n" + paths[0] + "\r\n");
+  Advance(0.1);
+  EXPECT_EQ(Rows(), "T0 T1 T2 T3 T4 ");
+}
+
+TEST_F(QueueScreenTest, OneDamagedFileHidesNoOther) {
+  Open();
+  folder.Write("music/Q/1.wav.tag", "too short");
+  queue().InsertFirst(AlbumPath("Q") + "gone.m4a", "");
+  house().queue_view.Update_queue2();
+  EXPECT_EQ(Rows(), "No Tag No Tag T2 T3 T4 ");
+  EXPECT_EQ(form().queue.remaining.caption(), " 8 Song(s) Remaining In Queue");
+  EXPECT_EQ(form().now_playing.next_song_title.caption(), "No Tag");
+}
+
 TEST_F(QueueTest, TheCommandsMoveAndRemoveTheChosenEntry) {
   for (const char* name : {"1.wav", "2.wav", "3.wav"}) WriteTrack("Q", name, "Ada", name);
   Start();

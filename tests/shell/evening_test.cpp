@@ -272,64 +272,6 @@ TEST_F(EveningTest, WhatFailsBehindAnAddIsChargedAndAddedOnceAndTheScreenGoes) {
   EXPECT_EQ(house().boundary.failures(), 4);
 }
 
-TEST_F(EveningTest, ADoubleTapPaysOnceAndEventsDuringAStartChangeNoRecord) {
-  settings.enable_credit_mode = true;
-  WriteDefaults();
-  folder.Write("cost.dat", " 1 \r\n 1 \r\n 1 \r\n 1 \r\n 1 \r\n 1 \r\n 1 \r\n 1 \r\n 1 \r\n");
-  WriteTrack("Night", "1.wav", "Bob", "Moon");
-  Start();
-  house().credits.Receive("4\r\n");
-  Click(form().album.covers[0].cover);
-  Click(form().track_list.rows[0].title);
-  const Rect button = form().play_options.play_now.AbsolutePlace();
-  machine.events.on_pump = [&] {
-    form().form.Click({button.left + 5, button.top + 5});
-    house().track_list.track_List2(AlbumPath("Night"));
-    jukebox->navigation.PressPlayer(PlayerButton::kPause);
-    machine.events.on_pump = [] {};
-  };
-  Click(form().play_options.play_now);
-  EXPECT_EQ(house().credits.count(), 2);
-  EXPECT_EQ(Plays(), 1);
-  EXPECT_EQ(folder.Read("User_history.dat").substr(255, 5), "Dawn ");
-  EXPECT_FALSE(house().playback.paused);
-  EXPECT_FALSE(form().paused.visible());
-  EXPECT_TRUE(machine.player.playing());
-}
-
-TEST_F(EveningTest, AStartWithinAStartLeavesTheTickOffUntilTheOuterOneIsDone) {
-  Start();
-  int inner = 0;
-  machine.events.on_pump = [&] {
-    if (++inner != 1) return;
-    house().tracks.Play_track3(tracks[1]);
-    EXPECT_FALSE(house().state_timer.enabled());
-  };
-  house().queue.Append(tracks[0], "");
-  Advance(1);
-  EXPECT_GT(inner, 1);
-  EXPECT_TRUE(house().state_timer.enabled());
-}
-
-TEST_F(EveningTest, TheQueueEntryPlayedNowIsTheOneThatGoesWhateverCameBefore) {
-  Start();
-  house().selection.Choose(tracks[0], PlayWay::kPlayNow);
-  house().selection.Choose(tracks[1], PlayWay::kAddToQueue);
-  house().selection.Choose(tracks[2], PlayWay::kAddToQueue);
-  Click(form().menu_buttons[static_cast<size_t>(MenuButton::kShowQueue)]);
-  Click(form().queue.rows[1].touch);
-  bool came = false;
-  machine.events.on_pump = [&] {
-    if (!came) house().selection.Choose(tracks[0], PlayWay::kPlayNext);
-    came = true;
-  };
-  Click(form().queue.commands[static_cast<size_t>(QueueCommand::kPlayNow)]);
-  EXPECT_EQ(Playing(), tracks[2]);
-  ASSERT_EQ(house().queue.count(), 2);
-  EXPECT_EQ(house().queue.path(0), tracks[0]);
-  EXPECT_EQ(house().queue.path(1), tracks[1]);
-}
-
 TEST_F(EveningTest, PlayNowOfAFileThatCanNotBeReadCostsNothing) {
   settings.enable_credit_mode = true;
   WriteDefaults();
@@ -352,7 +294,9 @@ TEST_F(EveningTest, AFailingHandlerGivesItsTimerBack) {
   jukebox->ticks.hooks.ticker_visible = []() -> bool { throw RuntimeFailure("no ticker"); };
   house().settings.use_second_monitor = true;
   jukebox->ticks.hooks.PollKeys = [] { throw RuntimeFailure("no keys"); };
+  house().queue.Append(tracks[0], "");
   Advance(3);
+  EXPECT_EQ(Playing(), tracks[0]);
   EXPECT_GE(house().boundary.failures(), 6);
   EXPECT_TRUE(house().state_timer.enabled());
   EXPECT_TRUE(house().timer1.enabled());

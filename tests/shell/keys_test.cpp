@@ -150,6 +150,23 @@ TEST_F(KeysTest, PauseAndNextActOnTheTrackThatPlays) {
   EXPECT_EQ(form().random.caption(), "Random ON");
 }
 
+TEST_F(KeysTest, TheQueueKeyShowsTheQueueAsItIsNow) {
+  Start();
+  machine.player.lengths[AlbumPath("Long") + "01.wav"] = 9000;
+  house().selection.Choose(AlbumPath("Long") + "01.wav", PlayWay::kPlayNow);
+  house().selection.Choose(AlbumPath("Long") + "02.wav", PlayWay::kAddToQueue);
+  house().selection.Choose(AlbumPath("Long") + "03.wav", PlayWay::kAddToQueue);
+  Click(form().menu_buttons[static_cast<size_t>(MenuButton::kShowQueue)]);
+  Click(form().queue.rows[1].touch);
+  Click(form().queue.back);
+  house().selection.Choose(AlbumPath("Long") + "04.wav", PlayWay::kPlayNext);
+  PressSlot(16);
+  EXPECT_EQ(form().queue.rows[0].track.caption(), "Track : T4");
+  EXPECT_EQ(form().queue.rows[1].track.caption(), "Track : T2");
+  // Left as it was chosen, unlike by the menu.
+  EXPECT_EQ(house().queue_view.selection(), 1);
+}
+
 TEST_F(KeysTest, KeypadKeysAreStoredAndNeverAsked) {
   Start();
   for (int slot = 21; slot <= 33; ++slot) EXPECT_EQ(PressSlot(slot), 0) << slot;
@@ -234,27 +251,61 @@ TEST_F(KeysTest, ATerminalWhoseShareIsGoneGivesThePriceBack) {
   EXPECT_EQ(house().boundary.failures(), 1);
 }
 
-TEST_F(KeysTest, AHalfWrittenSpoolFileWaitsUntilItIsWholeOrStandsStill) {
-  folder.Write("terminal.ini", "x\r\n\r\nTrue\r\nFalse\r\n");
-  Start();
-  const auto poll = [this](int times) {
+class SpoolTest : public KeysTest {
+ protected:
+  SpoolTest() {
+    folder.Write("terminal.ini", "x\r\n\r\nTrue\r\nFalse\r\n");
+    Start();
+    house().playback.paused = true;  // nothing leaves the queue
+  }
+  void Poll(int times) {
     for (int i = 0; i < times; ++i) {
       machine.clock.Add(10);
       machine.timers.FireDue();
     }
-  };
-  house().playback.paused = true;  // nothing leaves the queue
-  folder.Write("Queue.QUE", " 0 \r\n 1 \r\n\\m\\1.w");
-  poll(Network::kPatience - 1);
-  EXPECT_EQ(house().queue.count(), 0);
-  folder.Write("Queue.QUE", " 0 \r\n 1 \r\n\\m\\1.wav\r\n");
-  poll(1);
-  EXPECT_EQ(house().queue.path(0), "\\m\\1.wav");
-  folder.Write("Queue.QUE", " 0 \r\n 1 \r\n\\m\\2.wav");
-  poll(Network::kPatience - 1);
+  }
+  std::string Queued(int index) { return house().queue.path(index); }
+};
+
+TEST_F(SpoolTest, HalfWrittenFilesWaitUntilTheyAreWholeAndKeepNoOtherWaiting) {
+  folder.Write("A.QUE", " 0 \r\n 0 \r\n\\m\\1.w");
+  folder.Write("B.QUE", " 0 \r\n 0 \r\n\\m\\2.wav");
+  folder.Write("C.QUE", " 0 \r\n");
+  folder.Write("D.QUE", " 0 \r\n 0 \r\n\\m\\4.wav\r\n");
+  Poll(Network::kPatience - 1);
   EXPECT_EQ(house().queue.count(), 1);
-  poll(1);
-  EXPECT_EQ(house().queue.path(0), "\\m\\2.wav");
+  EXPECT_EQ(Queued(0), "\\m\\4.wav");
+  folder.Write("A.QUE", " 0 \r\n 0 \r\n\\m\\1.wav\r\n");
+  // The first is whole now, the second has stood still, the third never was a selection.
+  Poll(3);
+  ASSERT_EQ(house().queue.count(), 3);
+  EXPECT_EQ(Queued(1), "\\m\\1.wav");
+  EXPECT_EQ(Queued(2), "\\m\\2.wav");
+  EXPECT_EQ(folder.Read("C.QUE.bad"), " 0 \r\n");
+  EXPECT_FALSE(folder.Has("C.QUE"));
+}
+
+TEST_F(SpoolTest, AServedFileThatCanNotBeDeletedIsServedOnce) {
+  namespace fs = std::filesystem;
+  const fs::path file = folder.native() / "A.QUE";
+  const fs::path aside = folder.native() / "aside";
+  folder.Write("A.QUE", " 0 \r\n 0 \r\n\\m\\1.wav\r\n");
+  ASSERT_TRUE(house().network.ReadSpool());
+  // A folder with something in it can't be deleted.
+  fs::rename(file, aside);
+  folder.Write("A.QUE/x", "");
+  EXPECT_THROW(house().network.RemoveSpool(), RuntimeFailure);
+  fs::remove_all(file);
+  fs::rename(aside, file);
+  EXPECT_FALSE(house().network.ReadSpool());
+  folder.Write("B.QUE", " 0 \r\n 0 \r\n\\m\\2.wav\r\n");
+  Poll(2);
+  EXPECT_EQ(house().queue.count(), 1);
+  EXPECT_FALSE(house().network.ReadSpool());
+  // Written anew it is another selection.
+  folder.Write("A.QUE", " 0 \r\n 0 \r\n\\m\\11.wav\r\n");
+  Poll(1);
+  EXPECT_EQ(Queued(1), "\\m\\11.wav");
 }
 
 }  // namespace

@@ -34,7 +34,7 @@ class WeekTest : public JukeboxTest {
     WriteAlbums(albums, "videos.cvr");
     folder.Write("terminal.ini", "x\r\n\r\nTrue\r\nFalse\r\n");
     std::string prices;
-    for (int i = 0; i < 9; ++i) prices += " " + std::to_string(i % 3) + " \r\n";
+    for (int i = 0; i < 9; ++i) prices += " " + std::to_string(i) + " \r\n";
     folder.Write("cost.dat", prices);
     std::string keys;
     for (int slot = 0; slot < 35; ++slot) keys += " " + std::to_string(40 + slot) + " \r\n";
@@ -46,8 +46,18 @@ class WeekTest : public JukeboxTest {
     ASSERT_EQ(result, StartUpResult::kRunning);
     // Nobody switches it off before its evening ends.
     jukebox->menu.hooks.power_down = [] {};
-    house().selection.announce = [this](bool) { ++accepted; };
-    house().tracks.hooks.send_to_sign = [this] { ++accepted; };
+    // Each add comes by here behind its charge, with its flags still set. The prices are told here
+    // once more: by the kind of music, then "Add To Queue", "Play Next", "Play Now".
+    house().selection.hand_to_master = [this](const std::string&) {
+      const PlaybackState& state = house().playback;
+      const int kind = house().cursor.media_kind;
+      const bool both = state.play_now_flag != 0 && state.play_next_flag != 0;
+      if (state.random_in_progress || both || kind > 2) return false;
+      paid += kind * 3 + (state.play_now_flag != 0 ? 3 : state.play_next_flag != 0 ? 2 : 1);
+      ++selections;
+      return false;
+    };
+    paid = earned = 0;
   }
 
   int Draw(int n) { return static_cast<int>(draw() % static_cast<unsigned>(n)); }
@@ -129,6 +139,7 @@ class WeekTest : public JukeboxTest {
     const int before = house().credits.count();
     machine.coins.put(kCoins[coin]);
     EXPECT_EQ(house().credits.count(), before + kWorth[coin]);
+    earned += kWorth[coin];
   }
 
   void LetTimePass(int seconds) {
@@ -148,6 +159,7 @@ class WeekTest : public JukeboxTest {
     ASSERT_EQ(house().playback.play_now_flag, 0);
     ASSERT_EQ(house().playback.play_next_flag, 0);
     ASSERT_FALSE(house().playback.random_in_progress);
+    ASSERT_EQ(house().credits.count(), earned - paid);
     ASSERT_GE(house().credits.count(), 0);
     ASSERT_TRUE(house().timer1.enabled());
     ASSERT_TRUE(house().state_timer.enabled());
@@ -181,19 +193,17 @@ class WeekTest : public JukeboxTest {
 
   std::mt19937 draw{20240115};
   std::vector<std::string> paths;
-  int accepted = 0;
+  int paid = 0;
+  int earned = 0;
+  int selections = 0;
   bool in_pump = false;
   int rubbish_files = 0;
 };
 
 TEST_F(WeekTest, NoGuestCoinOrKeyBreaksTheJukebox) {
   Open();
-  int selections = 0;
   for (int day = 0; day < 7; ++day) {
     for (int event = 0; event < 700; ++event) {
-      const int credits = house().credits.count();
-      accepted = 0;
-      const bool paused = house().playback.paused;
       const int kind = Draw(20);
       if (kind < 14) {
         Touch();
@@ -203,16 +213,8 @@ TEST_F(WeekTest, NoGuestCoinOrKeyBreaksTheJukebox) {
         DropSpoolFile();
       } else {
         PutCoin();
-        ASSERT_NO_FATAL_FAILURE(CheckWhatAlwaysHolds());
-        continue;
       }
       ASSERT_NO_FATAL_FAILURE(CheckWhatAlwaysHolds()) << "day " << day << ", event " << event;
-      // Credits fall only for something that was added or started, or dropped over a pause.
-      ASSERT_LE(house().credits.count(), credits);
-      if (house().credits.count() < credits) {
-        ASSERT_TRUE(accepted > 0 || paused);
-        ++selections;
-      }
       LetTimePass(Draw(60));
       if (event % 50 == 0) {
         ASSERT_NO_FATAL_FAILURE(CheckNoSilence());
