@@ -75,6 +75,8 @@ int Credits::ShownPrice(int media_kind, PlayWay way) const {
 }
 
 bool Credits::InsertCoins(int media_kind) const {
+  // One way's price stands for all three, so another may be too dear behind a button that shows;
+  // that is meant, and the charge refuses it.
   return settings_.enable_credit_mode && media_kind >= 0 && media_kind <= 2 &&
          ShownPrice(media_kind, PlayWay::kAddToQueue) > count_;
 }

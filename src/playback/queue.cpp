@@ -113,9 +113,10 @@ const Queue::Names& Queue::NamesOf(const std::string& path, std::map<std::string
   if (!is_new) return names;
   names.file = StampOf(path);
   names.sidecar = StampOf(path + ".tag");
+  names.by_filename = tags_.UsesFilenameIfNoTagFound();
   const auto before = exported_.find(path);
   if (before != exported_.end() && before->second.file == names.file &&
-      before->second.sidecar == names.sidecar) {
+      before->second.sidecar == names.sidecar && before->second.by_filename == names.by_filename) {
     names.lines = before->second.lines;
     return names;
   }

@@ -52,6 +52,7 @@ class Queue {
   struct Names {
     FileStamp file;
     FileStamp sidecar;
+    bool by_filename = false;  // as the option was
     std::string lines;
   };
   const Names& NamesOf(const std::string& path, std::map<std::string, Names>& known);

@@ -63,6 +63,7 @@ void TrackSequence::Play_track3(std::string path) {
 
   fields_ = names;
   const std::string folder = FolderOf(path);
+  // Karaoke is remembered and recorded as its CDG; that is meant.
   state_.current_track_path = path;
   state_.current_track_folder = folder;
   ShowCover(covers_.FindCoverPicture(folder));

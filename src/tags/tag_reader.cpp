@@ -136,6 +136,7 @@ void TagReader::ReadTagSidecar(std::string_view path) {
   if (media.ends_with(kSidecarMark)) media.resize(media.size() - kSidecarMark.size());
   const std::string sidecar = media + std::string(kSidecarMark);
   if (!FileExists(sidecar)) {
+    // Without a look at the option for file names, which only the other arm asks; that is meant.
     SetNoTag(kNoTag);
     return;
   }

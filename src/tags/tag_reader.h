@@ -34,6 +34,8 @@ class TagReader {
   // Found", asked when it matters.
   TagReader(TagFields& fields, std::function<bool()> use_filename_if_no_tag_found);
 
+  bool UsesFilenameIfNoTagFound() const { return use_filename_if_no_tag_found_(); }
+
   // Reads `path` with the reader that `caller` uses for the last three characters of the path.
   void ReadFor(TagCaller caller, std::string_view path);
 

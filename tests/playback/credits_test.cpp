@@ -99,5 +99,44 @@ TEST_F(CreditsTest, WithoutCoinsThePlayOptionsShowPricesAndNoButton) {
   EXPECT_FALSE(screen.panel.visible());
 }
 
+TEST_F(CreditsTest, WithSomeCreditsInHandATouchBesideTheButtonsLeavesNothing) {
+  const std::string path = WriteTrack("A", "1.wav");
+  folder.Write("cost.dat", " 5 \r\n 5 \r\n 5 \r\n 5 \r\n 5 \r\n 5 \r\n 5 \r\n 5 \r\n 5 \r\n");
+  Start();
+  house().credits.Receive("1");
+  house().play_options.show_play_options(path, screen::kTrackList);
+  EXPECT_EQ(form().play_options.message.caption(), "Insert Coins To Play AUDIO");
+  Click(form().play_options.message);
+  EXPECT_TRUE(form().play_options.panel.visible());
+}
+
+TEST_F(CreditsTest, ATerminalTakesThePriceOfWhatItHandsOver) {
+  folder.Write("shared/x", "");
+  folder.Write("terminal.ini", "x\r\n" + folder.path() + "\\shared\\\r\nFalse\r\nTrue\r\n");
+  Start();
+  house().credits.Receive("10");
+  house().selection.Choose("\\m\\1.wav", PlayWay::kAddToQueue);
+  EXPECT_EQ(house().credits.count(), 9);
+  EXPECT_TRUE(folder.Has("shared/Queue.QUE"));
+}
+
+TEST_F(CreditsTest, APriceComesBackOnlyForATrackThatNeverBegan) {
+  const std::string path = WriteTrack("A", "1.wav");
+  Start();
+  const auto play_now = [&] {
+    EXPECT_THROW(house().selection.Choose(path, PlayWay::kPlayNow), RuntimeFailure);
+  };
+  house().credits.Receive("10");
+  house().tracks.hooks.mute_line_in = [] { throw RuntimeFailure("no mixer"); };
+  house().settings.mute_line_in_on_play = true;
+  play_now();
+  EXPECT_EQ(house().credits.count(), 10);
+  house().settings.mute_line_in_on_play = false;
+  house().tracks.hooks.start_song_facts = [] { throw RuntimeFailure("no facts"); };
+  play_now();
+  EXPECT_EQ(machine.player.file, path);
+  EXPECT_EQ(house().credits.count(), 5);
+}
+
 }  // namespace
 }  // namespace sonotik

@@ -128,6 +128,22 @@ TEST_F(EveningTest, KaraokePlaysTheCdgUnderTheNamesOfTheMp3) {
   EXPECT_TRUE(form().now_playing.video.visible());
 }
 
+TEST_F(EveningTest, RestartDoesNothingToAPausedTrack) {
+  Start();
+  house().selection.Choose(tracks[0], PlayWay::kPlayNow);
+  Advance(5);
+  jukebox->navigation.PressPlayer(PlayerButton::kPause);
+  const double position = house().engine.MediaPosition();
+  EXPECT_GT(position, 4);
+  jukebox->navigation.PressPlayer(PlayerButton::kRestart);
+  EXPECT_EQ(house().engine.MediaPosition(), position);
+  EXPECT_TRUE(house().playback.paused);
+  jukebox->navigation.PressPlayer(PlayerButton::kPause);
+  jukebox->navigation.PressPlayer(PlayerButton::kRestart);
+  EXPECT_LT(house().engine.MediaPosition(), 1);
+  EXPECT_TRUE(machine.player.playing());
+}
+
 TEST_F(EveningTest, TheRandomVolumeBelongsToTheMachinesOwnTracks) {
   settings.use_random_volume = true;
   settings.main_volume = -300;
