@@ -1,12 +1,12 @@
 # Sourced by run, test and CI from the project's folder: packages and builds.
 
-# Installs the packages of packages.txt that are missing. Silent where none is.
+# Installs the packages of a list, packages.txt by default, that are missing. Silent where none is.
 install_packages() {
-  local missing=() name
+  local missing=() name list=${1:-packages.txt}
   while read -r name; do
     case $name in '' | '#'*) continue ;; esac
     dpkg-query -W -f '${Status}' "$name" 2>/dev/null | grep -q 'ok installed' || missing+=("$name")
-  done <packages.txt
+  done <"$list"
   if [ ${#missing[@]} -gt 0 ]; then
     local as_root=()
     [ "$(id -u)" = 0 ] || as_root=(sudo)
@@ -23,10 +23,11 @@ install_packages() {
   fi
 }
 
-# Configures and builds a preset of CMakePresets.json.
+# Configures and builds a preset of CMakePresets.json, or some targets of it.
 build() {
-  local folder=build
-  [ "$1" = release ] || folder=build/$1
-  [ -e "$folder/build.ninja" ] || cmake --preset "$1" >/dev/null
-  cmake --build "$folder" --parallel "$(nproc)" -- --quiet
+  local preset=$1 folder=build
+  shift
+  [ "$preset" = release ] || folder=build/$preset
+  [ -e "$folder/build.ninja" ] || cmake --preset "$preset" >/dev/null
+  cmake --build "$folder" --parallel "$(nproc)" ${1:+--target "$@"} -- --quiet
 }

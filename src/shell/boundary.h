@@ -26,8 +26,9 @@ class Boundary {
   // A handler with its boundary, for a control to call.
   template <typename Handler>
   auto Guarded(const char* name, Handler handler) {
-    return
-        [this, name, handler](auto&&... arguments) { Run(name, [&] { handler(arguments...); }); };
+    return [this, name, handler](auto&&... arguments) {
+      this->Run(name, [&] { handler(arguments...); });
+    };
   }
 
   // Handlers that have failed so far.
