@@ -5,6 +5,13 @@
 #include "playback/genre_lists.h"
 
 namespace sonotik {
+namespace {
+
+// The one that the delivered settings name.
+constexpr char kDeliveredSkin[] = "Neon";
+
+}  // namespace
+
 StartUpResult StartUp::Form_Load() {
   const std::string& app_path = house_.app_path;
   if (!instance_.Take(app_path)) return StartUpResult::kSecondInstance;
@@ -47,6 +54,10 @@ StartUpResult StartUp::Form_Load() {
   Milestone("Start UP Complete");
 
   effects_.LoadConfig();
+  if (safe) {
+    house_.settings.current_skin = kDeliveredSkin;
+    house_.settings.full_screen = false;
+  }
   Milestone("INI File load Complete");
   Load("ApplySkin", "Skin Load Complete", hooks.ApplySkin);
   Run("show_next", [&] { house_.queue_view.show_next(); });

@@ -232,5 +232,17 @@ TEST(Charts, LieUnderTwoDigitMonths) {
   EXPECT_EQ(ChartPath("\\j", 10, 1999), "\\j\\history\\1999\\10.txt");
 }
 
+TEST_F(StartUpTest, StartedSafelyWearsTheDeliveredSkinInAWindow) {
+  settings.full_screen = true;
+  WriteDefaults();
+  jukebox = std::make_unique<Jukebox>(folder.path(), machine.machine);
+  jukebox->start_up.safe = true;
+  std::string skin;
+  jukebox->start_up.hooks.ApplySkin = [&] { skin = house().settings.current_skin; };
+  EXPECT_EQ(jukebox->Start(), StartUpResult::kRunning);
+  EXPECT_EQ(skin, "Neon");
+  EXPECT_FALSE(machine.displays.full_screen);
+}
+
 }  // namespace
 }  // namespace sonotik

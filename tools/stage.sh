@@ -1,0 +1,72 @@
+# Sourced by whoever drives a running jukebox with real clicks: a virtual display, the jukebox of the
+# folder $demo on it, and the places of its controls. Needs $demo and $programs.
+
+work=$(mktemp -d)
+finish() {
+  kill "${jukebox:-}" "${screen:-}" 2>/dev/null || true
+  wait 2>/dev/null || true
+  rm -rf "$work"
+}
+trap finish EXIT
+fail() {
+  echo "$(basename "$0"): $1" >&2
+  cat "$work/jukebox.log" >&2
+  exit 1
+}
+# until_true SECONDS COMMAND...: asks again until the command succeeds.
+until_true() {
+  local deadline=$((SECONDS + $1))
+  shift
+  until "$@"; do
+    [ $SECONDS -lt $deadline ] || return 1
+    kill -0 "$jukebox" 2>/dev/null || return 1
+    sleep 0.1
+  done
+}
+
+# As large as the larger skin.
+Xvfb -displayfd 4 -screen 0 1920x1080x24 -noreset -nolisten tcp 4>"$work/display" 2>/dev/null &
+screen=$!
+jukebox=$screen
+until_true 20 test -s "$work/display" || fail "no virtual display"
+DISPLAY=:$(cat "$work/display")
+export DISPLAY
+
+start() {
+  "$demo/sonotik" >>"$work/jukebox.log" 2>&1 &
+  jukebox=$!
+  until_true 30 xdotool search --onlyvisible --name '^Sonotik$' >"$work/window" ||
+    fail "no window came up"
+  settle
+}
+leave() {
+  kill -TERM "$jukebox"
+  wait "$jukebox" || fail "the jukebox did not end in order"
+}
+
+# wear SKIN: the places of its controls, and the part of the display that it covers.
+wear() {
+  skin=$1
+  "$programs/sonotik-where" "$demo" "$skin" >"$work/places" || fail "the skin $skin cannot be read"
+  window=$(awk '$1 == "window" { printf "%dx%d+0+0", $4, $5 }' "$work/places")
+  screens=$(awk '$1 == "player" { printf "%dx%d+0+0", $4, $3 }' "$work/places")
+}
+press() {
+  local left top width height
+  read -r left top width height < <(awk -v n="$1" '$1 == n { print $2, $3, $4, $5 }' "$work/places")
+  xdotool mousemove $(awk "BEGIN { printf \"%d %d\", $left + $width / 2, $top + $height / 2 }") click 1
+  # What the click has put on the screen: two pictures that agree.
+  settle
+}
+# Without the player panel, where something always moves.
+picture() { import -window root -crop "$screens" +repage -depth 8 "rgb:$1"; }
+settle() {
+  local tries
+  picture "$work/a"
+  for tries in 1 2 3 4 5 6 7 8; do
+    sleep 0.15
+    picture "$work/b"
+    cmp -s "$work/a" "$work/b" && return
+    mv "$work/b" "$work/a"
+  done
+}
