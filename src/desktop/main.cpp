@@ -26,7 +26,7 @@ std::string WithoutClosingSeparator(std::string path) {
   return path;
 }
 
-int RunJukebox(const std::string& app_path, bool safe) {
+int RunJukebox(const std::string& app_path) {
   SystemClock clock;
   MersenneTwister random;
   QtEventLoop loop;
@@ -63,7 +63,6 @@ int RunJukebox(const std::string& app_path, bool safe) {
   const EndSignals signals([&jukebox] { jukebox.LeaveInOrder(); });
   displays.SetWindow(&window);
 
-  jukebox.start_up.safe = safe;
   if (jukebox.Start() != StartUpResult::kRunning) return 0;
   window.show();
   const int status = loop.Run();
@@ -78,14 +77,12 @@ int main(int argc, char** argv) {
   // Before the toolkit may change what it was started as.
   const std::filesystem::path folder = sonotik::ProgramFolder(argv[0], std::getenv("PATH"));
   QApplication application(argc, argv);
-  const bool safe = QApplication::arguments().contains("--safe");
   QApplication::setQuitOnLastWindowClosed(false);
   // The player writes and reads numbers with a point.
   std::setlocale(LC_NUMERIC, "C");
   sonotik::SilenceAlsaErrors();
   try {
-    return sonotik::RunJukebox(sonotik::WithoutClosingSeparator(sonotik::ProgramPath(folder)),
-                               safe);
+    return sonotik::RunJukebox(sonotik::WithoutClosingSeparator(sonotik::ProgramPath(folder)));
   } catch (const sonotik::RuntimeFailure& failure) {
     std::cerr << "sonotik: " << failure.what() << std::endl;
     return 1;

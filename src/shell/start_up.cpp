@@ -54,10 +54,7 @@ StartUpResult StartUp::Form_Load() {
   Milestone("Start UP Complete");
 
   effects_.LoadConfig();
-  if (safe) {
-    house_.settings.current_skin = kDeliveredSkin;
-    house_.settings.full_screen = false;
-  }
+  Run("safe.txt", [&] { PlaySafe(); });
   Milestone("INI File load Complete");
   Load("ApplySkin", "Skin Load Complete", hooks.ApplySkin);
   Run("show_next", [&] { house_.queue_view.show_next(); });
@@ -89,6 +86,16 @@ void StartUp::Run(const char* name, const std::function<void()>& step) {
 void StartUp::Milestone(const char* text) {
   // A full disk takes the log, not the jukebox.
   Run("debug.log", [&] { house_.log.LogMilestone(text); });
+}
+
+// Whoever restarts the program after failures in a row leaves the file: for this one start it wears
+// the delivered skin, in a window, whatever the settings say.
+void StartUp::PlaySafe() {
+  const std::string wish = house_.app_path + "\\safe.txt";
+  if (!FileExists(wish)) return;
+  house_.settings.current_skin = kDeliveredSkin;
+  house_.settings.full_screen = false;
+  DeleteFileIfThere(wish);
 }
 
 void StartUp::ListGenres() {

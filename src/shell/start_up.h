@@ -39,14 +39,13 @@ class StartUp {
   StartUp(Assembly& house, SettingsEffects& effects) : house_(house), effects_(effects) {}
 
   StartUpHooks hooks;
-  // After failures in a row: the delivered skin and a window, whatever the settings say.
-  bool safe = false;
 
   // Throws RuntimeFailure only where no settings at all can be read: without them there is no
   // jukebox. Any other file that can't be read costs what it holds, and the start goes on.
   StartUpResult Form_Load();
 
  private:
+  void PlaySafe();
   void ListGenres();
   void SetUpScreens();
   void SetUpYearButtons();
