@@ -1,13 +1,29 @@
 // What the core costs, each beside a plain version of the same work.
 #include <benchmark/benchmark.h>
 
+#include <cstdlib>
 #include <fstream>
+#include <new>
 
 #include "catalogue_maker.h"
 #include "config/settings_file.h"
 #include "files/files.h"
 #include "shell/jukebox.h"
 #include "support/test_machine.h"
+
+namespace {
+
+long allocations = 0;
+
+}  // namespace
+
+void* operator new(size_t size) {
+  ++allocations;
+  if (void* memory = std::malloc(size)) return memory;
+  throw std::bad_alloc();
+}
+void operator delete(void* memory) noexcept { std::free(memory); }
+void operator delete(void* memory, size_t) noexcept { std::free(memory); }
 
 namespace sonotik {
 namespace {
@@ -131,14 +147,21 @@ void JumpToTheLetterZ(benchmark::State& state) {
 }
 BENCHMARK(JumpToTheLetterZ);
 
-// One idle poll of Timer1.
+// One idle poll of Timer1, with a key on each slot and in credit mode.
 void IdlePoll(benchmark::State& state) {
   const TempFolder folder;
   MakeJukebox(folder, 12, 12, 0);
+  std::string keys;
+  for (int slot = 0; slot < 35; ++slot) keys += " " + std::to_string(40 + slot) + " \r\n";
+  folder.Write("keyboard.dat", keys);
   TestMachine machine;
   Jukebox jukebox(folder.path(), machine.machine);
   jukebox.Start();
+  jukebox.house.settings.enable_credit_mode = true;
+  jukebox.ticks.Poll();
+  const long before = allocations;
   for (auto _ : state) jukebox.ticks.Poll();
+  state.counters["allocations"] = static_cast<double>(allocations - before);
 }
 BENCHMARK(IdlePoll);
 

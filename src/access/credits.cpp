@@ -16,6 +16,7 @@ Credits::Credits(const std::string& app_path, const Settings& settings, const Op
 }
 
 void Credits::Receive(const std::string& text) {
+  // Each text is a change of its own; that the box is emptied behind it would add 0 and is no call.
   using Limits = std::numeric_limits<int16_t>;
   // A script's line end belongs to the line, not to the number.
   const size_t end = text.find_last_not_of(std::string_view("\r\n\0", 3));

@@ -24,7 +24,7 @@ void PlayOptions::show_play_options(const std::string& path, size_t calling_scre
   screen_.cover.SetPicture(covers_.FindCoverPicture(FolderOf(path)));
   // A track that has gone keeps the names of the one before.
   if (FileExists(path)) {
-    tags_.ReadForRow(TagCaller::kPlayOptions, path);
+    tags_.ReadOrNone(TagCaller::kPlayOptions, path);
     screen_.artist.SetCaption(fields_.txtArtist);
     screen_.title.SetCaption(fields_.txtTitle);
   }

@@ -30,7 +30,8 @@ void TrackList::Open(const std::string& album_path) {
   // Shown first: what the guest waits for is the screen.
   form1_.ShowScreen(screen::kTrackList);
   // The files as they are now; turning pages of one visit keeps to one list.
-  album_files_.Refresh();
+  // A folder that has gone keeps the files that it had.
+  if (FolderExists(album_files_.folder())) album_files_.Refresh();
   track_List2(album_path);
   // Last: it lets events run, and one of them may open another album.
   if (settings_.use_animated_covers) {
@@ -81,10 +82,10 @@ void TrackList::FillRow(int row, int file) {
   TrackRow& labels = screen_.rows[static_cast<size_t>(row)];
   labels.title.SetVisible(true);
   labels.time.SetVisible(true);
-  tags_.ReadForRow(TagCaller::kTrackList, album_files_.PathAt(file));
+  tags_.ReadOrNone(TagCaller::kTrackList, album_files_.PathAt(file));
   std::string title = fields_.txtTitle;
   if (settings_.use_filename_if_no_tag && (title == kNoTag || title.empty())) {
-    title = album_files_.NameAt(file);
+    title = DoubleAmpersands(album_files_.NameAt(file));
   }
   // The first row of a page is never compared, so that of a compilation keeps the plain form.
   const std::string artist = UpperCase(fields_.txtArtist);
@@ -109,7 +110,7 @@ std::string TrackList::RowText(int number, const std::string& title) const {
 
 void TrackList::ShowHeading() {
   // From the last tag of the page, whatever the others say; that is meant.
-  screen_.album_heading.SetCaption("Album : " + fields_.txtAlbum);
+  screen_.album_heading.SetCaption("Album : " + DoubleAmpersands(fields_.txtAlbum));
   screen_.artist_heading.SetCaption("Artist : " +
                                     (compilation_ ? "Various Artists" : fields_.txtArtist));
   screen_.released_heading.SetCaption("Released : " + fields_.txtYear);
@@ -117,9 +118,7 @@ void TrackList::ShowHeading() {
 
 void TrackList::ShowCommands() {
   // The three play buttons act on a row, so they wait for one to be chosen.
-  screen_.play_now.SetVisible(false);
-  screen_.play_next.SetVisible(false);
-  screen_.add_to_queue.SetVisible(false);
+  HidePlayCommands();
   screen_.add_to_carousel.SetVisible(settings_.add_album_to_carousel);
   screen_.add_entire_album.SetVisible(settings_.add_entire_album);
   screen_.burn_cd.SetVisible(settings_.burn_cd);
@@ -188,6 +187,12 @@ void TrackList::OpenQuickJump(int cover) {
   Open(folder);
 }
 
+void TrackList::HidePlayCommands() {
+  for (lvButtons_H* button : {&screen_.play_now, &screen_.play_next, &screen_.add_to_queue}) {
+    button->SetVisible(false);
+  }
+}
+
 void TrackList::SelectRow(int row) {
   const auto mark = [&](int which, bool on) {
     if (which < 0 || which >= kMostTrackRows) return;
@@ -203,9 +208,9 @@ void TrackList::SelectRow(int row) {
 
 void TrackList::ShowRowCommands() {
   if (TrimBlanks(screen_.rows[static_cast<size_t>(selected_row_)].title.caption()).empty()) {
-    for (lvButtons_H* button :
-         {&screen_.play_now, &screen_.play_next, &screen_.add_to_queue, &screen_.add_entire_album,
-          &screen_.add_to_carousel, &screen_.burn_cd, &screen_.download}) {
+    HidePlayCommands();
+    for (lvButtons_H* button : {&screen_.add_entire_album, &screen_.add_to_carousel,
+                                &screen_.burn_cd, &screen_.download}) {
       button->SetVisible(false);
     }
     return;

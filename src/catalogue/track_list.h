@@ -24,6 +24,8 @@ class TrackList {
   void track_List2(const std::string& album_path);
   // A new album from its first track, without a highlighted row.
   void Open(const std::string& album_path);
+  // The three buttons that play or queue the chosen row.
+  void HidePlayCommands();
   // The album of a track, if the cover page shows it.
   void show_album(const std::string& path);
   // "Up" is -1, "Down" is 1.

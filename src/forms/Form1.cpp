@@ -143,6 +143,7 @@ void Form1::HideAllScreens() {
 }
 
 void Form1::ShowScreen(size_t index) {
+  ++screens_shown_;
   panels[index].SetVisible(true);
   panels[index].BringToFront();
 }

@@ -114,10 +114,13 @@ struct Form1 {
   void HideAllScreens();
   // Shows one panel in front.
   void ShowScreen(size_t index);
+  // How often that was done: where it has grown, somebody went on from where he was.
+  unsigned long screens_shown() const { return screens_shown_; }
   // What no file of a skin places keeps its share of its panel, whatever size a skin gives that.
   void FitUnplaced();
 
  private:
+  unsigned long screens_shown_ = 0;
   struct Unplaced {
     Control* control;
     Rect design;

@@ -78,9 +78,14 @@ std::optional<SpooledSelection> Network::ReadSpool() {
     if (stamp.size <= 0 || stamp.size > kLongestSpool || !FileExists(served_)) continue;
     const auto waits = waiting_.find(served_);
     if (waits != waiting_.end() && waits->second.served && waits->second.stamp == stamp) continue;
+    std::string text;
     try {
-      const std::string text = ReadWholeFile(served_);
-      if (StillWritten(stamp, text)) continue;
+      text = ReadWholeFile(served_);
+    } catch (const RuntimeFailure&) {
+      // A share may be away for a moment: it counts as one that isn't whole yet.
+    }
+    if (StillWritten(stamp, text)) continue;
+    try {
       return Parse(text);
     } catch (const RuntimeFailure&) {
       TakeAway([this] { RenameFile(served_, served_ + ".bad"); });

@@ -115,7 +115,7 @@ const Queue::Names& Queue::NamesOf(const std::string& path, std::map<std::string
   names.sidecar = StampOf(path + ".tag");
   names.by_filename = tags_.UsesFilenameIfNoTagFound();
   const auto before = exported_.find(path);
-  if (before != exported_.end() && before->second.file == names.file &&
+  if (before != exported_.end() && !before->second.failed && before->second.file == names.file &&
       before->second.sidecar == names.sidecar && before->second.by_filename == names.by_filename) {
     names.lines = before->second.lines;
     return names;
@@ -131,8 +131,10 @@ const Queue::Names& Queue::NamesOf(const std::string& path, std::map<std::string
     }
     names.lines = writer.text();
   } catch (const RuntimeFailure&) {
-    // One damaged file must not keep the others out of the list.
+    // One damaged file must not keep the others out of the list. It is looked at again next time:
+    // perhaps only its disk was away.
     names.lines = "\r\n\r\n\r\n";
+    names.failed = true;
   }
   return names;
 }

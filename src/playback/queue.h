@@ -13,6 +13,7 @@
 
 namespace sonotik {
 
+// As long as guests make it: no setting limits it, whatever the options page offers.
 class Queue {
  public:
   Queue(const std::string& app_path, RandomSource& random, TagReader& tags,
@@ -53,6 +54,7 @@ class Queue {
     FileStamp file;
     FileStamp sidecar;
     bool by_filename = false;  // as the option was
+    bool failed = false;
     std::string lines;
   };
   const Names& NamesOf(const std::string& path, std::map<std::string, Names>& known);

@@ -1,6 +1,7 @@
 #include "playback/queue_view.h"
 
 #include "text/numbers.h"
+#include "text/text.h"
 
 namespace sonotik {
 
@@ -29,6 +30,7 @@ void QueueView::HideRowCommands() {
 
 void QueueView::Update_queue2() {
   screen_.commands[static_cast<size_t>(QueueCommand::kClear)].SetVisible(true);
+  screen_.commands[static_cast<size_t>(QueueCommand::kBurnCd)].SetVisible(settings_.burn_cd);
   if (settings_.read_only_queue) {
     for (lvButtons_H& command : screen_.commands) command.SetVisible(false);
   } else if (selection_ == -1) {
@@ -59,10 +61,10 @@ void QueueView::FillRow(int row) {
   if (path.empty()) return EmptyRow(row);
   QueueRow& labels = screen_.rows[static_cast<size_t>(row)];
   labels.cover.SetPicture(covers_.OrNotFound(queue_.cover(entry)));
-  tags_.ReadForRow(TagCaller::kUpdateQueue, path);
+  tags_.ReadOrNone(TagCaller::kUpdateQueue, path);
   labels.artist.SetCaption("Artist : " + fields_.txtArtist);
   labels.track.SetCaption("Track : " + fields_.txtTitle);
-  labels.album.SetCaption("Album : " + fields_.txtAlbum);
+  labels.album.SetCaption("Album : " + DoubleAmpersands(fields_.txtAlbum));
   labels.time.SetCaption(" (" + fields_.txtmp3time + ")");
   if (row == 0) {
     form1_.now_playing.next_song_artist.SetCaption(fields_.txtArtist);
@@ -84,7 +86,7 @@ void QueueView::show_next() {
   screen.next_song.SetVisible(true);
   screen.next_song_cover.SetVisible(true);
   screen.next_song_cover.SetPicture(covers_.OrNotFound(queue_.cover(0)));
-  tags_.ReadForRow(TagCaller::kShowNext, queue_.path(0));
+  tags_.ReadOrNone(TagCaller::kShowNext, queue_.path(0));
   screen.next_song_artist.SetCaption(fields_.txtArtist);
   screen.next_song_title.SetCaption(fields_.txtTitle);
 }
@@ -117,7 +119,6 @@ void QueueView::PressRow(int row) {
   show(QueueCommand::kMoveUp, true);
   show(QueueCommand::kMoveDown, true);
   show(QueueCommand::kPlayNow, settings_.play_it_now);
-  show(QueueCommand::kBurnCd, settings_.burn_cd);
   Update_queue2();
 }
 

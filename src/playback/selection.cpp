@@ -1,5 +1,7 @@
 #include "playback/selection.h"
 
+#include <exception>
+
 #include "files/paths.h"
 #include "files/runtime_failure.h"
 
@@ -25,27 +27,27 @@ void Selection::add_queue4(const std::string& path) {
                                                  state_.random_in_progress);
   if (!price) return;
   const unsigned long opened = state_.opened;
+  std::exception_ptr failure;
   try {
     Add(path, play_now, play_next);
   } catch (const RuntimeFailure&) {
-    // A shared folder that is gone, a tag that can't be read: nobody pays for what never began.
-    if (state_.opened == opened) credits_.GiveBack(*price);
-    throw;
-  }
-  try {
-    // Also on a Terminal, where the track itself is queued elsewhere.
-    if (settings_.use_second_monitor && !play_now) {
-      tags_.ReadFor(TagCaller::kAddQueue, path);
-      if (!state_.random_in_progress) announce(play_next);
+    // A shared folder that is gone: nobody pays for what failed before it began. A "Play Now" of a
+    // file that isn't there fails nowhere and is paid; that is meant.
+    if (state_.opened == opened) {
+      credits_.GiveBack(*price);
+      throw;
     }
-  } catch (const RuntimeFailure&) {
-    // A damaged tag is no matter of the screen and the list for others.
-    view_.show_next();
-    queue_.Export();
-    throw;
+    // What plays has been paid, and the rest of the house has to know.
+    failure = std::current_exception();
+  }
+  // Also on a Terminal, where the track itself is queued elsewhere.
+  if (settings_.use_second_monitor && !play_now) {
+    tags_.ReadOrNone(TagCaller::kAddQueue, path);
+    if (!state_.random_in_progress) announce(play_next);
   }
   view_.show_next();
   queue_.Export();
+  if (failure) std::rethrow_exception(failure);
 }
 
 void Selection::Add(const std::string& path, bool play_now, bool play_next) {

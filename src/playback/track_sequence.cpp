@@ -1,7 +1,10 @@
 #include "playback/track_sequence.h"
 
+#include <exception>
+
 #include "files/files.h"
 #include "files/paths.h"
+#include "files/runtime_failure.h"
 #include "text/dates.h"
 #include "text/text.h"
 
@@ -35,7 +38,8 @@ void TrackSequence::Play_track3(std::string path) {
 
   // Muted here and never opened again; that is meant.
   if (settings_.mute_line_in_on_play) hooks.mute_line_in();
-  tags_.ReadFor(TagCaller::kPlayTrack, path);
+  // The sound of a file with a damaged tag may be whole, and a guest may have paid for it.
+  tags_.ReadOrNone(TagCaller::kPlayTrack, path);
   ShowNames();
   // Events run before the play is recorded, and one of them may read another tag.
   const TagFields names = fields_;
@@ -72,8 +76,15 @@ void TrackSequence::Play_track3(std::string path) {
       fields_.txtmp3time.empty() ? MinutesSeconds(engine_.MediaDuration()) : fields_.txtmp3time;
   form1_.length.SetCaption(length);
   form1_.now_playing.length.SetCaption(length);
-  history_.AddToHistory(path, state_.random_in_progress ? kRandomHistory : kUserHistory);
+  // A history that can't be written costs its record, and the song keeps its facts.
+  std::exception_ptr unwritten;
+  try {
+    history_.AddToHistory(path, state_.random_in_progress ? kRandomHistory : kUserHistory);
+  } catch (const RuntimeFailure&) {
+    unwritten = std::current_exception();
+  }
   hooks.start_song_facts();
+  if (unwritten) std::rethrow_exception(unwritten);
 }
 
 void TrackSequence::ShowNames() {

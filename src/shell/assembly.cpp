@@ -54,10 +54,7 @@ Assembly::Assembly(std::string path, Machine& ports)
       attract(settings, ports.random, animation, form1),
       calendar(app_path, settings) {
   tracks.hooks.start_song_facts = [this] { fact_display.StartSongFacts(); };
-  // A track that is to play at once is no duplicate.
-  play_options.is_queued = [this](const std::string& chosen) {
-    return playback.play_now_flag == 0 && queue.Contains(chosen);
-  };
+  play_options.is_queued = [this](const std::string& chosen) { return queue.Contains(chosen); };
   selection.hand_to_master = [this](const std::string& track) {
     if (!network.terminal()) return false;
     network.WriteSpool({playback.play_now_flag, playback.play_next_flag, track});

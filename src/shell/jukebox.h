@@ -38,6 +38,7 @@ class Jukebox {
     house.calendar.swap_skin = [this](const std::string& name) { effects.PutOnSkin(name); };
     start_up.hooks.ApplySkin = [this] { effects.ApplySkin(); };
     start_up.hooks.update_skinlist = [this] { house.skins.UpdateSkinList(); };
+    ticks.hooks.key_is_held = [this] { return keys.KeyIsHeld(); };
     ticks.hooks.PollKeys = [this] { keys.PollKeys(); };
     menu.hooks.power_down = [this] { shutdown.power_down(); };
     start_up.hooks.load_history_chart = [this](const std::string& path) {

@@ -30,8 +30,6 @@ enum Slot : size_t {
 };
 
 constexpr int kEscape = 27;
-// How often a held key is asked for.
-constexpr int kReleaseCheckMs = 10;
 constexpr int kVolumeStep = 30;
 
 }  // namespace
@@ -41,19 +39,19 @@ bool KeyPoll::Down(size_t slot) const {
   return code >= 0 && house_.machine.keys.IsDown(code);
 }
 
-void KeyPoll::WaitForRelease(int code) {
-  while (house_.machine.keys.IsDown(code) && !house_.state.shutting_down) {
-    house_.machine.events.WaitForEvents(kReleaseCheckMs);
-  }
+bool KeyPoll::KeyIsHeld() {
+  if (held_ >= 0 && !house_.machine.keys.IsDown(held_)) held_ = -1;
+  return held_ >= 0;
 }
 
 template <typename Action>
 void KeyPoll::On(size_t slot, Action action) {
-  if (!Down(slot)) return;
+  if (held_ >= 0 || !Down(slot)) return;
   house_.state.idle_seconds = 0;
+  // First: an action that starts a track lets the next poll run. The Power Off key waits for the
+  // one before it; that is meant.
+  held_ = house_.key_map.code(slot == kPowerOff ? kRandomOnOff : slot);
   action();
-  // The Power Off key waits for the one before it; that is meant.
-  WaitForRelease(house_.key_map.code(slot == kPowerOff ? kRandomOnOff : slot));
 }
 
 void KeyPoll::PollKeys() {
@@ -67,9 +65,9 @@ void KeyPoll::PollKeys() {
 void KeyPoll::PollEscapeOnly() {
   if (!house_.machine.keys.IsDown(kEscape)) return;
   house_.state.idle_seconds = 0;
-  menu_.EnterOptions();
   // Not Escape itself but the key 48 above "Browse Back" is waited for; that stays.
-  WaitForRelease(house_.key_map.code(kBrowseBack) + 48);
+  held_ = house_.key_map.code(kBrowseBack) + 48;
+  menu_.EnterOptions();
 }
 
 void KeyPoll::PollTrackList() {

@@ -12,14 +12,16 @@ class KeyPoll {
   KeyPoll(Assembly& house, Menu& menu, Navigation& navigation)
       : house_(house), menu_(menu), navigation_(navigation) {}
 
-  // One look at all mapped keys. After each action it waits, letting events run, until that key is
-  // up again: one press is one action, and a key that is held never stops the music.
+  // One look at all mapped keys. The first that is down acts, and until its key is up again it is
+  // held: one press is one action.
   void PollKeys();
+  // Whoever polls waits for that, and lets everything else go on: a key that is held, or stuck,
+  // never stops the music.
+  bool KeyIsHeld();
 
  private:
   bool Down(size_t slot) const;
-  void WaitForRelease(int code);
-  // Runs the action if the slot's key is down.
+  // Runs the action if the slot's key is down and no other has acted in this look.
   template <typename Action>
   void On(size_t slot, Action action);
 
@@ -37,6 +39,8 @@ class KeyPoll {
   Assembly& house_;
   Menu& menu_;
   Navigation& navigation_;
+  // The code of the key whose release is waited for, -1 for none.
+  int held_ = -1;
 };
 
 }  // namespace sonotik

@@ -81,8 +81,6 @@ void Menu::Open(MenuButton button) {
 void Menu::OpenQueue() {
   house_.queue_view.Reset();
   house_.queue_view.HideRowCommands();
-  house_.form1.queue.commands[static_cast<size_t>(QueueCommand::kBurnCd)].SetVisible(
-      house_.settings.burn_cd);
   house_.queue_view.Update_queue2();
 }
 

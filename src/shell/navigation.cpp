@@ -140,6 +140,7 @@ void Navigation::PressTrackRow(int row) {
   house_.tags.ReadFor(TagCaller::kTrackRowClick, path);
   // An M4A or WMA still carries the genre of the file before; that is meant.
   if (UpperCase(house_.fields.txtGenre) == "ADULT") {
+    list.HidePlayCommands();
     house_.form1.panel(screen::kPlayOptions).SetVisible(false);
     house_.pin.Ask(screen::kPlayOptions);
   }
@@ -147,6 +148,8 @@ void Navigation::PressTrackRow(int row) {
 
 void Navigation::DoubleClickTrackRow(int row) {
   if (!house_.settings.enable_double_click) return PressTrackRow(row);
+  // The first of the two taps has met a track that isn't for everybody.
+  if (house_.form1.pin_screen.visible()) return;
   const std::string path = house_.track_list.PathOfRow(row);
   if (path.empty()) return;
   house_.form1.panel(screen::kPlayOptions).SetVisible(false);
@@ -162,12 +165,13 @@ bool Navigation::Choose(const std::string& path, PlayWay way) {
   if (way == PlayWay::kPlayNow && house_.playback.starting > 0) return false;
   // By then it is charged and added: what fails behind that (a list for others, a tag) must not
   // leave the guest on a screen that asks again.
+  const unsigned long shown = house_.form1.screens_shown();
   house_.boundary.Run("add_queue4", [&] { house_.selection.Choose(path, way); });
-  return true;
+  return house_.form1.screens_shown() == shown;
 }
 
 void Navigation::ChooseOn(size_t screen, const std::string& path, PlayWay way) {
-  if (Choose(path, way) && house_.form1.panel(screen).visible()) AfterAdding(screen);
+  if (Choose(path, way)) AfterAdding(screen);
 }
 
 void Navigation::ChooseRow(PlayWay way) {
@@ -211,7 +215,7 @@ void Navigation::WirePlayOptions() {
 void Navigation::ChoosePlayOption(PlayWay way) {
   // By value: adding reads other tracks.
   const std::string path = house_.play_options.path();
-  if (!Choose(path, way) || !house_.form1.panel(screen::kPlayOptions).visible()) return;
+  if (!Choose(path, way)) return;
   house_.play_options.Close();
   AfterAdding(house_.play_options.calling_screen());
 }

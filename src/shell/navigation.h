@@ -17,10 +17,11 @@ class Navigation {
   // Hundredths of a decibel, for the slider, the setting and the track that plays.
   void SetVolume(int value);
   // Adds or plays by the way chosen; what fails behind the charge is no failure of the caller.
-  // False, and nothing is taken: "Play Now" while a track starts, since it would lose its play.
+  // False if nothing is taken, since "Play Now" while another track starts would lose its play, or
+  // if the guest has gone elsewhere while it started: he stays there.
   bool Choose(const std::string& path, PlayWay way);
   // The same from a screen, and then the way back: to the album pages if that is asked for, else
-  // the screen stays. A guest who has gone elsewhere while the track started is left there.
+  // the screen stays.
   void ChooseOn(size_t screen, const std::string& path, PlayWay way);
   void ToggleFullScreen();
 

@@ -127,18 +127,14 @@ void Ticks::PickWhatComesNext() {
 void Ticks::StartQueueHead() {
   const std::string path = house_.queue.path(0);
   const std::string cover = house_.queue.cover(0);
-  {
-    // A track whose start fails leaves the queue all the same: kept, it would be tried for ever
-    // and nothing behind it would play. It is entry 0 that goes, also if the queue was changed
-    // while the start let events run; that is meant.
-    const struct Remove {
-      Queue& queue;
-      ~Remove() { queue.RemoveAt(0); }
-    } remove{house_.queue};
-    house_.tracks.Play_track3(path);
-    // Over the cover that the start has shown, and also over a track that was gone; that is meant.
-    house_.tracks.ShowCover(house_.covers.OrNotFound(cover));
-  }
+  // A track whose start fails leaves the queue all the same: kept, it would be tried for ever and
+  // nothing behind it would play.
+  house_.boundary.Run("track start", [&] { house_.tracks.Play_track3(path); });
+  // Over the cover that the start has shown, and also over a track that was gone; that is meant.
+  house_.tracks.ShowCover(house_.covers.OrNotFound(cover));
+  // It is entry 0 that goes, also if the queue was changed while the start let events run; that is
+  // meant.
+  house_.queue.RemoveAt(0);
   if (house_.settings.shuffle_queue_each_play) {
     house_.queue.shuffle_queue();
     house_.queue_view.Update_queue2();
@@ -195,6 +191,7 @@ void Ticks::ShowQueueAsItIs() {
 
 void Ticks::Poll() {
   const TimerHold off(house_.timer1);
+  if (hooks.key_is_held()) return;
   // One file a poll; what fails in it leaves the credits and the keys alone. While a track starts
   // the files wait: played now, one would lose its turn, and in the machine's own start it would be
   // free.

@@ -14,6 +14,8 @@ struct TickHooks {
   std::function<bool()> ticker_visible = [] { return false; };
   std::function<void()> hide_ticker = [] {};
   std::function<void()> leave_program = [] {};
+  // While a key is held the poll does nothing at all.
+  std::function<bool()> key_is_held = [] { return false; };
   std::function<void()> PollKeys = [] {};
 };
 

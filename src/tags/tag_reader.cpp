@@ -146,7 +146,7 @@ void TagReader::ReadTagSidecar(std::string_view path) {
   ReadSidecarText(ReadWholeFile(sidecar), fields_);
 }
 
-void TagReader::ReadForRow(TagCaller caller, std::string_view path) {
+void TagReader::ReadOrNone(TagCaller caller, std::string_view path) {
   try {
     ReadFor(caller, path);
   } catch (const RuntimeFailure&) {

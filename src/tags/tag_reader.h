@@ -39,9 +39,9 @@ class TagReader {
   // Reads `path` with the reader that `caller` uses for the last three characters of the path.
   void ReadFor(TagCaller caller, std::string_view path);
 
-  // The same for one row of a list, which a damaged file must not keep from the rows behind it: it
-  // has no tag.
-  void ReadForRow(TagCaller caller, std::string_view path);
+  // The same for whoever goes on without names: a damaged file, one row of a list or a track to be
+  // played, has no tag.
+  void ReadOrNone(TagCaller caller, std::string_view path);
 
   // MP3, by its ID3v2 tag alone: without one all twelve texts are empty. Throws RuntimeFailure for
   // an ID3v2 tag of size 0 or with a size that overflows, see mdlID3.h and mpeg_info.h.

@@ -72,6 +72,16 @@ TEST_F(TrackListTest, AFolderThatIsGoneKeepsTheAlbumBefore) {
   EXPECT_EQ(Row(0), "Dawn");
 }
 
+TEST_F(TrackListTest, TheAlbumShownThatIsGoneKeepsItsRows) {
+  WriteTrack("A&B", "1.wav", "Ada", "Dawn");
+  Start();
+  house().track_list.Open(AlbumPath("A&B"));
+  EXPECT_EQ(form().track_list.album_heading.caption(), "Album : A&&B");
+  std::filesystem::remove_all(folder.native() / "music" / "A&B");
+  house().track_list.Open(AlbumPath("A&B"));
+  EXPECT_TRUE(RowShows(0));
+}
+
 TEST_F(TrackListTest, TheStripShowsTheArtistsOtherAlbums) {
   WriteAlbums(
       {{"0", "Aaron"}, {"1", "Ada & Co"}, {"2", "Ada & Co"}, {"3", "ADA & CO"}, {"4", "Bob"}});
@@ -117,6 +127,12 @@ TEST_F(TrackListTest, AnAdultTrackAsksForThePinAlsoWithDoubleClicksOn) {
   Click(form().track_list.rows[0].title);
   EXPECT_TRUE(form().pin_screen.visible());
   EXPECT_FALSE(form().panel(screen::kPlayOptions).visible());
+  // Neither the second tap nor a button beside the PIN leads around it.
+  const Rect row = form().track_list.rows[0].title.AbsolutePlace();
+  form().form.DoubleClickMouse({row.left + 5, row.top + 5});
+  EXPECT_EQ(machine.player.file, "");
+  EXPECT_FALSE(form().track_list.play_now.visible());
+  EXPECT_FALSE(form().track_list.add_to_queue.visible());
 }
 
 TEST_F(TrackListTest, ADoubleClickDoesWhatTheOperatorChose) {

@@ -99,6 +99,46 @@ TEST_F(CreditsTest, WithoutCoinsThePlayOptionsShowPricesAndNoButton) {
   EXPECT_FALSE(screen.panel.visible());
 }
 
+TEST_F(CreditsTest, TheTestPriceOfVideoIsTheAudioPriceOfPlayNext) {
+  const std::string path = WriteTrack("A", "1.wav");
+  Start();
+  house().cursor.media_kind = kVideo;
+  house().credits.Receive("2");
+  // Adding would cost 2, but 3 are asked for.
+  house().play_options.show_play_options(path, screen::kTrackList);
+  EXPECT_EQ(form().play_options.message.caption(), "Insert Coins To Play VIDEO");
+  house().credits.Receive("1");
+  house().play_options.show_play_options(path, screen::kTrackList);
+  EXPECT_EQ(form().play_options.message.caption(), "");
+}
+
+TEST_F(CreditsTest, SwitchedOffTheCountIsKeptUnseenAndOnAgainStartsAnotherFeeder) {
+  Start();
+  house().credits.Receive("4");
+  const auto switch_to = [&](bool on) {
+    settings.enable_credit_mode = on;
+    WriteDefaults();
+    jukebox->effects.LoadConfig();
+  };
+  switch_to(false);
+  EXPECT_EQ(Caption(), "FREEPLAY");
+  EXPECT_EQ(form().play_caption.caption(), "Play NOW");
+  EXPECT_EQ(machine.processes.started.size(), 1U);
+  switch_to(true);
+  EXPECT_EQ(Caption(), "CREDITS:  4");
+  EXPECT_EQ(machine.processes.started.size(), 2U);
+}
+
+TEST_F(CreditsTest, WithoutPricesEverythingIsFree) {
+  std::filesystem::remove(folder.native() / "cost.dat");
+  Start();
+  for (const PlayWay way : {PlayWay::kAddToQueue, PlayWay::kPlayNext}) {
+    house().selection.Choose("\\m\\1.wav", way);
+  }
+  EXPECT_EQ(house().queue.count(), 2);
+  EXPECT_EQ(house().credits.count(), 0);
+}
+
 TEST_F(CreditsTest, WithSomeCreditsInHandATouchBesideTheButtonsLeavesNothing) {
   const std::string path = WriteTrack("A", "1.wav");
   folder.Write("cost.dat", " 5 \r\n 5 \r\n 5 \r\n 5 \r\n 5 \r\n 5 \r\n 5 \r\n 5 \r\n 5 \r\n");

@@ -67,22 +67,23 @@ TEST_F(EveningTest, TheNextEntryStartsOnTheTickThatEndsTheOneBefore) {
 }
 
 TEST_F(EveningTest, FilesThatAreGoneOrDamagedNeverStopTheQueue) {
-  folder.Write("music/Day/broken.wav", "x");
-  folder.Write("music/Day/broken.wav.tag", "too short");
   Start();
   machine.player.lengths[tracks[0]] = -1;
   house().queue.Append(folder.path() + "\\gone.wav", "");
-  house().queue.Append(AlbumPath("Day") + "broken.wav", "");
   house().queue.Append(tracks[0], "");
   house().queue.Append(tracks[2], "");
-  Advance(4);
+  Advance(3);
   EXPECT_EQ(Playing(), tracks[2]);
   EXPECT_TRUE(machine.player.playing());
   EXPECT_EQ(house().queue.count(), 0);
 }
 
 TEST_F(EveningTest, APausedTrackNeverEndsAndDropsPlayNow) {
+  settings.enable_credit_mode = true;
+  WriteDefaults();
+  folder.Write("cost.dat", " 1 \r\n 1 \r\n 1 \r\n 1 \r\n 1 \r\n 1 \r\n 1 \r\n 1 \r\n 1 \r\n");
   Start();
+  house().credits.Receive("5");
   house().selection.Choose(tracks[0], PlayWay::kPlayNow);
   Click(form().player_buttons[static_cast<size_t>(PlayerButton::kPause)]);
   EXPECT_TRUE(form().paused.visible());
@@ -92,6 +93,7 @@ TEST_F(EveningTest, APausedTrackNeverEndsAndDropsPlayNow) {
   house().selection.Choose(tracks[1], PlayWay::kPlayNow);
   EXPECT_EQ(Playing(), tracks[0]);
   EXPECT_EQ(house().queue.count(), 0);
+  EXPECT_EQ(house().credits.count(), 1) << "dropped, and paid all the same";
   machine.player.SetPosition(10);
   Click(form().player_buttons[static_cast<size_t>(PlayerButton::kPause)]);
   EXPECT_TRUE(machine.player.playing());
@@ -102,9 +104,14 @@ TEST_F(EveningTest, APausedTrackNeverEndsAndDropsPlayNow) {
 }
 
 TEST_F(EveningTest, AButtonThatStartsAMissingFileLeavesTheTickOffUntilAStartSucceeds) {
+  settings.enable_credit_mode = true;
+  WriteDefaults();
+  folder.Write("cost.dat", " 1 \r\n 1 \r\n 1 \r\n 1 \r\n 1 \r\n 1 \r\n 1 \r\n 1 \r\n 1 \r\n");
   Start();
+  house().credits.Receive("5");
   house().selection.Choose(folder.path() + "\\gone.wav", PlayWay::kPlayNow);
   EXPECT_FALSE(house().state_timer.enabled());
+  EXPECT_EQ(house().credits.count(), 3) << "paid all the same";
   house().selection.Choose(tracks[0], PlayWay::kPlayNow);
   EXPECT_TRUE(house().state_timer.enabled());
 }
@@ -288,21 +295,61 @@ TEST_F(EveningTest, WhatFailsBehindAnAddIsChargedAndAddedOnceAndTheScreenGoes) {
   EXPECT_EQ(house().boundary.failures(), 4);
 }
 
-TEST_F(EveningTest, PlayNowOfAFileThatCanNotBeReadCostsNothing) {
-  settings.enable_credit_mode = true;
-  WriteDefaults();
-  folder.Write("cost.dat", " 1 \r\n 1 \r\n 1 \r\n 1 \r\n 1 \r\n 1 \r\n 1 \r\n 1 \r\n 1 \r\n");
+TEST_F(EveningTest, AFileWithADamagedTagIsPlayedWithoutNames) {
   folder.Write("music/Day/broken.wav", "x");
   folder.Write("music/Day/broken.wav.tag", "too short");
   Start();
-  house().credits.Receive("5");
-  jukebox->navigation.Choose(AlbumPath("Day") + "broken.wav", PlayWay::kPlayNow);
-  EXPECT_EQ(house().credits.count(), 5);
-  // Queued it is paid for, stands in the list without names and keeps no other out of it.
   jukebox->navigation.Choose(AlbumPath("Day") + "broken.wav", PlayWay::kAddToQueue);
   jukebox->navigation.Choose(tracks[0], PlayWay::kAddToQueue);
-  EXPECT_EQ(house().credits.count(), 1);
   EXPECT_NE(folder.Read("queue.upl").find("Cover.jpg\r\nAda\r\nDawn\r\n"), std::string::npos);
+  Advance(1);
+  EXPECT_EQ(Playing(), AlbumPath("Day") + "broken.wav");
+  EXPECT_EQ(Title(), "No Tag");
+}
+
+TEST_F(EveningTest, AHistoryThatCanNotBeWrittenCostsItsRecordAlone) {
+  folder.Write("User_history.dat/x", "");
+  Start();
+  int facts = 0;
+  house().tracks.hooks.start_song_facts = [&] { ++facts; };
+  house().queue.Append(tracks[0], AlbumPath("Day") + "other.jpg");
+  house().queue.Append(tracks[1], "");
+  folder.Write("music/Day/other.jpg", "x");
+  Advance(1);
+  EXPECT_EQ(Playing(), tracks[0]);
+  EXPECT_EQ(facts, 1);
+  EXPECT_EQ(form().now_playing.next_song_title.caption(), "Noon");
+  // The queue's cover stands over the one that the start has found.
+  EXPECT_EQ(form().now_playing_cover.picture(), AlbumPath("Day") + "other.jpg");
+  jukebox->navigation.Choose(tracks[2], PlayWay::kPlayNow);
+  EXPECT_EQ(facts, 2);
+  EXPECT_EQ(folder.Read("queue.upl").substr(0, 3), " 1 ");
+}
+
+TEST_F(EveningTest, AnAddIsAnnouncedAndTheTickerHidesAfterTenTicks) {
+  settings.use_second_monitor = true;
+  WriteDefaults();
+  Start();
+  std::string announced;
+  house().selection.announce = [&](bool next) {
+    announced += house().fields.txtTitle + (next ? " next," : " queued,");
+  };
+  bool ticker = true;
+  jukebox->ticks.hooks.ticker_visible = [&] { return ticker; };
+  jukebox->ticks.hooks.hide_ticker = [&] { ticker = false; };
+  house().selection.Choose(tracks[0], PlayWay::kPlayNow);
+  house().selection.Choose(tracks[1], PlayWay::kAddToQueue);
+  house().selection.Choose(tracks[2], PlayWay::kPlayNext);
+  EXPECT_EQ(announced, "Noon queued,Dusk next,");
+  house().settings.use_second_monitor = false;
+  Advance(20);
+  EXPECT_TRUE(ticker);
+  house().settings.use_second_monitor = true;
+  Advance(9);
+  EXPECT_TRUE(ticker);
+  Advance(1);
+  EXPECT_FALSE(ticker);
+  EXPECT_EQ(house().state.ticker_seconds, 0);
 }
 
 TEST_F(EveningTest, AFailingHandlerGivesItsTimerBack) {

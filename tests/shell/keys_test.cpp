@@ -22,25 +22,25 @@ class KeysTest : public JukeboxTest {
   }
   static std::string LastDigitsOf(int i) { return (i < 10 ? "0" : "") + std::to_string(i); }
 
-  // A press of so many rounds of the waiting loop; gives how many there were.
-  int Press(int code, int held_for = 3) {
-    machine.keys.down.insert(code);
-    int waited = 0;
-    machine.events.on_pump = [&, held_for] {
-      if (++waited >= held_for) machine.keys.down.erase(code);
-    };
-    machine.clock.Add(10);
-    machine.timers.FireDue();
-    machine.keys.down.erase(code);
-    machine.events.on_pump = [] {};
-    return waited;
+  void Poll(int times = 1) {
+    for (int i = 0; i < times; ++i) {
+      machine.clock.Add(10);
+      machine.timers.FireDue();
+    }
   }
-  int PressSlot(int slot, int held_for = 3) { return Press(40 + slot, held_for); }
+  // Held for so many polls, and let go for one.
+  void Press(int code, int polls = 3) {
+    machine.keys.down.insert(code);
+    Poll(polls);
+    machine.keys.down.erase(code);
+    Poll();
+  }
+  void PressSlot(int slot, int polls = 3) { Press(40 + slot, polls); }
 };
 
 TEST_F(KeysTest, OnePressIsOneActionHoweverLongItIsHeld) {
   Start();
-  EXPECT_EQ(PressSlot(6, 50), 50);
+  PressSlot(6, 50);
   EXPECT_EQ(house().cursor.position(), 13);
   PressSlot(6);
   EXPECT_EQ(house().cursor.position(), 25);
@@ -58,17 +58,32 @@ TEST_F(KeysTest, TheTickGoesOnWhileAKeyIsHeld) {
   house().selection.Choose(AlbumPath("Long") + "01.wav", PlayWay::kPlayNow);
   house().selection.Choose(AlbumPath("Long") + "02.wav", PlayWay::kAddToQueue);
   machine.keys.down.insert(40 + 12);
-  int rounds = 0;
-  machine.events.on_pump = [&] {
-    machine.clock.Add(100);
-    machine.player.Add(0.1);
-    machine.timers.FireDue();
-    if (++rounds == 400) machine.keys.down.clear();
-  };
-  machine.clock.Add(10);
-  machine.timers.FireDue();
-  EXPECT_EQ(rounds, 400);
+  Advance(40);
   EXPECT_EQ(machine.player.file, AlbumPath("Long") + "02.wav");
+}
+
+TEST_F(KeysTest, AKeyThatIsStuckInTheStartOfATrackDoesNotHoldIt) {
+  Start();
+  machine.events.on_pump = [&] {
+    machine.keys.down.insert(40 + 13);
+    Poll();
+  };
+  house().selection.Choose(AlbumPath("Long") + "01.wav", PlayWay::kPlayNow);
+  machine.events.on_pump = [] {};
+  EXPECT_TRUE(form().panel(screen::kHistory).visible());
+  EXPECT_EQ(machine.player.file, AlbumPath("Long") + "01.wav");
+  EXPECT_TRUE(house().state_timer.enabled());
+}
+
+TEST_F(KeysTest, TheSelectKeyOnTwoScreensActsOnceAPress) {
+  Start();
+  PressSlot(3);
+  // With the album pages behind it the track list has the first word, and it has no row yet.
+  house().track_list.Open(AlbumPath("Long"));
+  house().track_list.SelectRow(0);
+  PressSlot(4);
+  EXPECT_EQ(house().queue.count(), 1);
+  EXPECT_FALSE(form().panel(screen::kTrackList).visible());
 }
 
 TEST_F(KeysTest, CoversAreMarkedOpenedAndTheirTracksTaken) {
@@ -169,15 +184,20 @@ TEST_F(KeysTest, TheQueueKeyShowsTheQueueAsItIsNow) {
 
 TEST_F(KeysTest, KeypadKeysAreStoredAndNeverAsked) {
   Start();
-  for (int slot = 21; slot <= 33; ++slot) EXPECT_EQ(PressSlot(slot), 0) << slot;
+  for (int slot = 21; slot <= 33; ++slot) PressSlot(slot);
+  for (int slot = 21; slot <= 33; ++slot) EXPECT_FALSE(machine.keys.asked.contains(40 + slot));
+  EXPECT_TRUE(machine.keys.asked.contains(40 + 34));
 }
 
 TEST_F(KeysTest, PowerOffWaitsForTheKeyBeforeIt) {
   Start();
   int offs = 0;
   jukebox->menu.hooks.power_down = [&] { ++offs; };
-  EXPECT_EQ(PressSlot(34), 0);
-  EXPECT_EQ(offs, 1);
+  PressSlot(34, 3);
+  EXPECT_EQ(offs, 3);
+  machine.keys.down.insert(40 + 20);
+  PressSlot(34, 3);
+  EXPECT_EQ(offs, 3);
 }
 
 TEST_F(KeysTest, WithoutKeyMappingOnlyEscapeLivesAndTheSpoolIsServed) {
@@ -185,21 +205,22 @@ TEST_F(KeysTest, WithoutKeyMappingOnlyEscapeLivesAndTheSpoolIsServed) {
   WriteDefaults();
   folder.Write("terminal.ini", "x\r\n\r\nTrue\r\nFalse\r\n");
   Start();
-  EXPECT_EQ(PressSlot(6), 0);
+  PressSlot(6);
   EXPECT_EQ(house().cursor.position(), 1);
   // Escape is 27; what is waited for is the key 48 above "Browse Back".
   machine.keys.down.insert(45 + 48);
-  int rounds = 0;
   machine.keys.down.insert(27);
-  machine.events.on_pump = [&] {
-    if (++rounds == 5) machine.keys.down.clear();
-  };
   folder.Write("Queue.QUE", " 0 \r\n 0 \r\n\\m\\x, y.wav\r\n");
-  machine.clock.Add(10);
-  machine.timers.FireDue();
+  Poll();
   EXPECT_TRUE(form().panel(screen::kOptions).visible());
-  EXPECT_EQ(rounds, 5);
   EXPECT_EQ(house().queue.path(0), "\\m\\x, y.wav");
+  // A poll that waits serves nothing.
+  folder.Write("Queue.QUE", " 0 \r\n 0 \r\n\\m\\z.wav\r\n");
+  Poll(5);
+  EXPECT_EQ(house().queue.count(), 1);
+  machine.keys.down.clear();
+  Poll();
+  EXPECT_EQ(house().queue.count(), 2);
 }
 
 TEST_F(KeysTest, AMasterServesOneFileAPollAndADamagedOneStopsNothing) {
@@ -257,12 +278,6 @@ class SpoolTest : public KeysTest {
     folder.Write("terminal.ini", "x\r\n\r\nTrue\r\nFalse\r\n");
     Start();
     house().playback.paused = true;  // nothing leaves the queue
-  }
-  void Poll(int times) {
-    for (int i = 0; i < times; ++i) {
-      machine.clock.Add(10);
-      machine.timers.FireDue();
-    }
   }
   std::string Queued(int index) { return house().queue.path(index); }
 };

@@ -146,6 +146,36 @@ TEST_F(StartTest, AGuestWhoGoesElsewhereIsNotBroughtBack) {
   EXPECT_FALSE(form().panel(screen::kTrackList).visible());
 }
 
+TEST_F(StartTest, AnotherTracksOptionsOpenedMeanwhileStayOpen) {
+  settings.auto_back_on_selection = true;
+  WriteDefaults();
+  Start();
+  Click(form().album.covers[0].cover);
+  Click(form().track_list.rows[0].title);
+  InRound(1, [&] { house().play_options.show_play_options(tracks[2], screen::kTrackList); });
+  Click(form().play_options.play_now);
+  EXPECT_TRUE(form().panel(screen::kPlayOptions).visible());
+  EXPECT_EQ(form().play_options.title.caption(), "Dusk");
+}
+
+TEST_F(StartTest, PlayNowOfAQueuedSongIsPaidAgainAndTakesItOutEvenIfItIsRefused) {
+  for (const int coins : {0, 10}) {
+    OpenPaid();
+    house().credits.Receive(std::to_string(coins - 10));
+    machine.player.lengths[tracks[0]] = 9000;
+    house().tracks.Play_track3(tracks[0]);
+    house().queue.Append(tracks[1], "");
+    jukebox->menu.Open(MenuButton::kShowQueue);
+    Click(form().queue.rows[0].touch);
+    Click(form().queue.commands[static_cast<size_t>(QueueCommand::kPlayNow)]);
+    EXPECT_EQ(house().queue.count(), 0);
+    EXPECT_EQ(Playing(), coins == 0 ? tracks[0] : tracks[1]);
+    EXPECT_EQ(house().credits.count(), coins == 0 ? 0 : 8);
+    jukebox.reset();
+    machine.player = TestPlayer();
+  }
+}
+
 TEST_F(StartTest, ASpoolFileWaitsForTheEndOfTheMachinesOwnStartAndIsPaid) {
   folder.Write("terminal.ini", "x\r\n\r\nTrue\r\nFalse\r\n");
   OpenPaid();

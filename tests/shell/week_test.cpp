@@ -106,17 +106,13 @@ class WeekTest : public JukeboxTest {
 
   void PressKey() {
     const int code = 40 + Draw(35);
-    int rounds = 1 + Draw(3);
+    const int polls = 1 + Draw(3);
     machine.keys.down.insert(code);
-    machine.events.on_pump = [this, &rounds, code] {
-      machine.clock.Add(20);
+    for (int i = 0; i <= polls; ++i) {
+      if (i == polls) machine.keys.down.clear();
+      machine.clock.Add(10);
       machine.timers.FireDue();
-      if (--rounds <= 0) machine.keys.down.erase(code);
-    };
-    machine.clock.Add(10);
-    machine.timers.FireDue();
-    machine.keys.down.clear();
-    machine.events.on_pump = [] {};
+    }
   }
 
   void DropSpoolFile() {

@@ -136,7 +136,11 @@ class TestEvents : public EventLoop {
 class TestKeys : public KeyState {
  public:
   std::set<int> down;
-  bool IsDown(int virtual_key) override { return down.contains(virtual_key); }
+  std::set<int> asked;
+  bool IsDown(int virtual_key) override {
+    asked.insert(virtual_key);
+    return down.contains(virtual_key);
+  }
 };
 
 class TestDisplays : public Displays {
