@@ -12,7 +12,7 @@ struct FieldName {
   const char* words;
 };
 constexpr FieldName kFieldNames[] = {
-    {F::kIgnored, "anything; not looked at"},
+    {F::kIgnored, "anything"},
     {F::kHead, "number that decides"},
     {F::kVersion, "text that decides"},
     {F::kCaption, "caption"},

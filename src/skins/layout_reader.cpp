@@ -1,9 +1,12 @@
 #include "skins/layout_reader.h"
 
 #include <algorithm>
+#include <filesystem>
+#include <system_error>
 #include <utility>
 
 #include "files/files.h"
+#include "files/paths.h"
 #include "files/runtime_failure.h"
 #include "skins/coordinates.h"
 #include "text/numbers.h"
@@ -127,6 +130,12 @@ void FinishButtons(BlockKind kind, std::span<Control* const> controls, int shape
   });
 }
 
+// A device or a pipe may have no end.
+bool IsFile(const std::string& path) {
+  std::error_code error;
+  return std::filesystem::is_regular_file(NativePath(path), error);
+}
+
 }  // namespace
 
 LayoutReader::LayoutReader(const LayoutTargets& targets, std::string folder)
@@ -135,12 +144,12 @@ LayoutReader::LayoutReader(const LayoutTargets& targets, std::string folder)
 std::string LayoutReader::PictureAt(std::string_view name) const {
   if (TrimBlanks(name).empty()) return "";
   std::string path = folder_ + "\\" + std::string(name);
-  return FileExists(path) ? path : "";
+  return IsFile(path) ? path : "";
 }
 
 bool LayoutReader::Read(const LayoutFile& file) const {
   const std::string path = folder_ + "\\" + file.name;
-  if (!FileExists(path)) return false;
+  if (!IsFile(path)) return false;
   ReadText(file, ReadWholeFile(path));
   return true;
 }

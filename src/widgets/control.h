@@ -165,6 +165,7 @@ class Panel : public Control {
   Color back_color() const { return back_color_; }
   void SetBackColor(Color color) { Change(back_color_, color); }
   // No colour and no picture of its own: what lies behind shows through.
+  bool transparent() const { return transparent_; }
   void SetTransparent(bool transparent) { Change(transparent_, transparent); }
   const std::string& picture() const { return picture_; }
   void SetPicture(std::string path) { Change(picture_, std::move(path)); }
