@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 #include <vector>
 
 #include "files/files.h"
@@ -13,6 +14,7 @@ namespace {
 
 constexpr size_t kItems = 6;  // a position
 constexpr float kLeastPoints = 6;
+constexpr float kMostPoints = 1000;
 
 std::array<Control*, kItems> ItemsOf(CoverPosition& position) {
   return {&position.cover,     &position.frame, &position.reflection,
@@ -32,7 +34,7 @@ Rect ReadBox(FieldReader& reader) {
 void FitLetters(CoverPosition& position) {
   const auto fit = [](Label& label, float points_of_height) {
     Font font = label.font();
-    font.points = std::max(kLeastPoints, label.place().height * points_of_height);
+    font.points = std::clamp(label.place().height * points_of_height, kLeastPoints, kMostPoints);
     label.SetFont(font);
   };
   // In points, of a height in pixels.
@@ -44,7 +46,11 @@ void FitLetters(CoverPosition& position) {
 }  // namespace
 
 void LoadCoverLayout(const std::string& path, CoverLayout& layout, AlbumScreen& screen) {
-  FieldReader reader(ReadWholeFile(path));
+  ReadCoverLayout(ReadWholeFile(path), layout, screen);
+}
+
+void ReadCoverLayout(std::string text, CoverLayout& layout, AlbumScreen& screen) {
+  FieldReader reader(std::move(text));
   reader.Skip();
   CoverLayout read;
   // 51 slots are in use at most, and slot 0 is none of them.

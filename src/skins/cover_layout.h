@@ -20,6 +20,8 @@ struct CoverLayout {
 // badge, album label, artist label. Positions behind the count are hidden. Throws RuntimeFailure
 // for a file that is too short or holds text where a number is due.
 void LoadCoverLayout(const std::string& path, CoverLayout& layout, AlbumScreen& screen);
+// The same for the bytes of a file.
+void ReadCoverLayout(std::string text, CoverLayout& layout, AlbumScreen& screen);
 
 }  // namespace sonotik
 
