@@ -7,6 +7,7 @@
 
 #include "desktop/alsa_errors.h"
 #include "desktop/coin_box.h"
+#include "desktop/drawn_pixels.h"
 #include "desktop/form_window.h"
 #include "desktop/logind_session.h"
 #include "desktop/mpv_player.h"
@@ -16,6 +17,7 @@
 #include "files/paths.h"
 #include "files/program_folder.h"
 #include "files/runtime_failure.h"
+#include "imaging/form_image.h"
 #include "shell/jukebox.h"
 
 namespace sonotik {
@@ -48,6 +50,10 @@ int RunJukebox(const std::string& app_path) {
   player.on_frame = [&] {
     form1.now_playing.video.SetPixels(&player.pixels());
     form1.now_playing.video.Invalidate();
+  };
+  jukebox.chart_ways.form_image = [&] {
+    Form2& form2 = jukebox.house.form2;
+    form2.forum_file = form_image(DrawnPixels(form2.forum, pictures), app_path);
   };
   loop.Drive(timers);
 

@@ -2,6 +2,8 @@
 #ifndef SONOTIK_FORMS_FORM2_H_
 #define SONOTIK_FORMS_FORM2_H_
 
+#include <string>
+
 #include "forms/design.h"
 
 namespace sonotik {
@@ -14,12 +16,16 @@ struct WindowStyle {
 };
 
 struct Form2 {
-  PictureBox forum_picture;  // New forum.bmp
-  // What is drawn on it: the track that plays.
+  Form2();
+
+  // What is drawn for others when a track starts: its cover and names on New forum.bmp.
+  Panel forum;
+  PictureBox forum_picture;
   PictureBox forum_cover;
   Label forum_artist;
   Label forum_title;
   Label forum_album;
+  std::string forum_file;  // the last one that was written
   WindowStyle style;
 };
 
