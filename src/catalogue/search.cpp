@@ -105,8 +105,7 @@ void Search::ShowRow(int row) {
     items.number.SetCaption(NumberCaption(entry + 1));
     path = TrimBlanks(results_.paths[at]);
   }
-  items.blank.SetVisible(!path.empty());
-  for (Label* label : {&items.number, &items.artist, &items.track}) {
+  for (Label* label : {&items.number, &items.artist, &items.track, &items.blank}) {
     label->SetVisible(!path.empty());
     label->SetHighlighted(entry == chosen_);
   }
