@@ -30,6 +30,8 @@ class Credits {
   // everything costs nothing.
   void LoadCost();
   void SaveCost() const;
+  // The selected index of a cell, for the options page.
+  int& price_selection(size_t list, size_t index) { return price_grid_[list][index]; }
 
   // Takes the price of an add and says what it took; nothing said: too few credits, and nothing may
   // be added. 0 is taken while credit mode is off, for the machine's own selections, on a page that

@@ -17,6 +17,8 @@ class KeyMap {
 
   int code(size_t slot) const { return codes_[slot]; }
   void SetCode(size_t slot, int code) { codes_[slot] = code; }
+  // The selection of a slot, for the options page.
+  int& selection(size_t slot) { return codes_[slot]; }
 
  private:
   const std::string& app_path_;

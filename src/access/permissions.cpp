@@ -17,4 +17,10 @@ void Permissions::LoadPermissions() {
   }
 }
 
+void Permissions::SavePermissions() const {
+  LineWriter writer;
+  for (const bool allowed : allowed_) writer.Check(allowed);
+  ReplaceFile(app_path_ + "\\permissions.ini", writer.text());
+}
+
 }  // namespace sonotik

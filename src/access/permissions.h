@@ -9,6 +9,8 @@
 
 namespace sonotik {
 
+inline constexpr size_t kPermissions = 10;
+
 class Permissions {
  public:
   Permissions(const std::string& app_path, MessageBox& messages)
@@ -18,12 +20,17 @@ class Permissions {
   // message, and the boxes read so far keep their values.
   void LoadPermissions();
 
+  // Throws RuntimeFailure, and then the old file still stands.
+  void SavePermissions() const;
+
   bool allowed(size_t line) const { return allowed_[line]; }
+  // The box of a line, for the options page.
+  bool& box(size_t line) { return allowed_[line]; }
 
  private:
   const std::string& app_path_;
   MessageBox& messages_;
-  std::array<bool, 10> allowed_{};
+  std::array<bool, kPermissions> allowed_{};
 };
 
 }  // namespace sonotik

@@ -21,6 +21,7 @@ void PinEntry::EnterOptions(size_t target) {
   form1_.pin_screen.SetVisible(false);
   show_pin_boxes(true);
   form1_.ShowScreen(screen::kOptions);
+  pages_shown();
 }
 
 void PinEntry::Ask(size_t target) {
@@ -80,6 +81,7 @@ void PinEntry::LetIn(bool admin) {
     options.section_panels[i].SetVisible(shown);
   }
   options.power_off.SetVisible(admin || permissions_.allowed(8));
+  pages_shown();
 }
 
 }  // namespace sonotik

@@ -22,6 +22,9 @@ class PinEntry {
   std::function<void(bool visible)> show_pin_boxes = [](bool) {};
   std::function<void(bool admin)> restrict_pages = [](bool) {};
 
+  // The pages have come to show.
+  std::function<void()> pages_shown = [] {};
+
   // The options, at once or behind the PIN. Callers have hidden the screens.
   void EnterOptions(size_t target = screen::kOptions);
   // Always asks: a track for adults wants the PIN whether or not the options do.

@@ -135,6 +135,7 @@ void Form1::FitUnplaced() {
     }
     item.control->SetPlace(place);
   }
+  options.LayOut();
 }
 
 void Form1::HideAllScreens() {

@@ -4,6 +4,8 @@
 
 #include <array>
 
+#include "forms/OptionOverlays.h"
+#include "forms/OptionPage.h"
 #include "forms/design.h"
 
 namespace sonotik {
@@ -26,6 +28,21 @@ struct OptionsScreen {
   // On the panel of the appearance: what the skin that is picked in the list looks like.
   PictureBox skin_preview;
   Label skin_resolution;  // "Resolution: 1920 x 1080"
+  // The settings on each of them, and the buttons that turn the pages of the one in front.
+  std::array<OptionPage, kOptionSections> settings;
+  OptionField page_back{OptionKind::kCommand, "<<"};
+  OptionField page_forward{OptionKind::kCommand, ">>"};
+  Label page_caption;  // "1 / 2"
+  OptionPicker picker;
+  OptionKeyboard keyboard;
+  OptionCalendar calendar;
+
+  // The section in front: of several that show it is the last one; nullptr for none.
+  OptionPage* front();
+  // All of it anew by the sizes of the panels.
+  void LayOut();
+  // Which of the page buttons the section in front needs.
+  void ShowPageButtons();
 };
 
 }  // namespace sonotik

@@ -45,6 +45,12 @@ void AddPicture(Panel& panel, PictureBox& picture, const Rect& place, PictureFit
   picture.SetFit(fit);
 }
 
+void AddOption(Panel& panel, OptionField& field, const Rect& place) {
+  panel.Add(field, place);
+  field.SetFont({.points = 12});
+  field.SetColors({kText, kMuted, kAmber, kRaised});
+}
+
 void AddPanel(Panel& panel, Panel& child, const Rect& place, Color color) {
   panel.Add(child, place);
   child.SetBackColor(color);

@@ -5,6 +5,7 @@
 
 #include <string>
 
+#include "widgets/OptionField.h"
 #include "widgets/Slider.h"
 #include "widgets/controls.h"
 #include "widgets/lvButtons_H.h"
@@ -43,6 +44,8 @@ void AddMainButton(Panel& panel, lvButtons_H& button, const Rect& place, const s
                    float points = 13);
 void AddPicture(Panel& panel, PictureBox& picture, const Rect& place,
                 PictureFit fit = PictureFit::kCover);
+// A setting, a key or a command of the options pages.
+void AddOption(Panel& panel, OptionField& field, const Rect& place);
 void AddPanel(Panel& panel, Panel& child, const Rect& place, Color color = kNight);
 
 }  // namespace sonotik::design

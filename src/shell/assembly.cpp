@@ -22,6 +22,7 @@ Assembly::Assembly(std::string path, Machine& ports)
       permissions(app_path, ports.messages),
       pin(app_path, ports.clock, settings, permissions, form1),
       network(app_path),
+      sign(app_path),
       tags(fields, [this] { return settings.use_filename_if_no_tag; }),
       skins(app_path, settings, lists, form1, ports),
       covers(app_path, settings),

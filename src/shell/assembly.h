@@ -29,6 +29,7 @@
 #include "forms/Form2.h"
 #include "forms/Splash.h"
 #include "peripherals/network.h"
+#include "peripherals/sign_settings.h"
 #include "platform/machine.h"
 #include "playback/attract.h"
 #include "playback/fact_display.h"
@@ -86,6 +87,7 @@ struct Assembly {
   Permissions permissions;
   PinEntry pin;
   Network network;
+  SignSettings sign;
 
   TagFields fields;
   TagReader tags;

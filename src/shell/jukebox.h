@@ -11,6 +11,7 @@
 #include "shell/key_poll.h"
 #include "shell/menu.h"
 #include "shell/navigation.h"
+#include "shell/options.h"
 #include "shell/search_ways.h"
 #include "shell/settings_effects.h"
 #include "shell/shutdown.h"
@@ -33,9 +34,11 @@ class Jukebox {
         search_ways(house, menu, navigation),
         genre_ways(house),
         keys(house, menu, navigation),
+        options(house, effects),
         shutdown(house) {
     shutdown.hooks.save_random = [this] { SaveGenreLists(house.app_path, house.lists); };
     house.calendar.swap_skin = [this](const std::string& name) { effects.PutOnSkin(name); };
+    start_up.hooks.load_sign = [this] { house.sign.LoadSign(); };
     start_up.hooks.ApplySkin = [this] { effects.ApplySkin(); };
     start_up.hooks.update_skinlist = [this] { house.skins.UpdateSkinList(); };
     ticks.hooks.key_is_held = [this] { return keys.KeyIsHeld(); };
@@ -70,6 +73,7 @@ class Jukebox {
   SearchWays search_ways;
   GenreWays genre_ways;
   KeyPoll keys;
+  Options options;
   Shutdown shutdown;
 };
 

@@ -149,16 +149,24 @@ void SettingsEffects::ShowMenu() {
   }
 }
 
-void SettingsEffects::HideTabs() {
+std::array<bool, 6> SettingsEffects::Tabs() const {
   const Settings& settings = house_.settings;
-  const bool tabs[] = {settings.tab_audio,       settings.tab_video,
-                       settings.tab_karaoke,     settings.tab_most_played,
-                       settings.tab_newly_added, settings.tab_spin_on_this};
-  for (size_t i = 0; i < std::size(tabs); ++i) {
+  return {settings.tab_audio,       settings.tab_video,       settings.tab_karaoke,
+          settings.tab_most_played, settings.tab_newly_added, settings.tab_spin_on_this};
+}
+
+void SettingsEffects::HideTabs() {
+  const auto tabs = Tabs();
+  for (size_t i = 0; i < tabs.size(); ++i) {
     // Never made visible here: a tab that was hidden before stays so. The search results have a
     // strip of their own for the first three.
     if (!tabs[i]) house_.form1.album.tabs[i].SetVisible(false);
   }
+}
+
+void SettingsEffects::ShowTabs() {
+  const auto tabs = Tabs();
+  for (size_t i = 0; i < tabs.size(); ++i) house_.form1.album.tabs[i].SetVisible(tabs[i]);
 }
 
 void SettingsEffects::ShowDisplays() {

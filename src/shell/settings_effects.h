@@ -2,6 +2,7 @@
 #ifndef SONOTIK_SHELL_SETTINGS_EFFECTS_H_
 #define SONOTIK_SHELL_SETTINGS_EFFECTS_H_
 
+#include <array>
 #include <string>
 
 #include "shell/assembly.h"
@@ -25,13 +26,18 @@ class SettingsEffects {
   // throws RuntimeFailure.
   void SelectCoverLayout();
 
+  // What the operator's click on a setting of the pages does at once.
+  void SwitchCreditMode();
+  void ShowMenu();
+  // The tabs by their boxes. Reading the settings only ever hides them.
+  void ShowTabs();
+  void ShowDisplays();
+
  private:
   void Apply(int row, bool changed);
-  void SwitchCreditMode();
   void ShowCoverLayout(const std::string& path);
-  void ShowMenu();
+  std::array<bool, 6> Tabs() const;
   void HideTabs();
-  void ShowDisplays();
 
   Assembly& house_;
   std::string shown_layout_;

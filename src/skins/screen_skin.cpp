@@ -164,6 +164,20 @@ void ScreenSkin::ApplyResolution() {
   hooks.fit_video_window();
 }
 
+void ScreenSkin::SwitchFullScreen() {
+  displays_.SetFullScreen(settings_.full_screen);
+  if (settings_.full_screen) {
+    mode_changed_ = true;
+    if (screen_width_ > 0) displays_.ChangeResolution(screen_width_, screen_height_);
+    displays_.FitWindow(true);
+    displays_.SetTaskbarVisible(false);
+  } else {
+    displays_.RestoreResolution();
+    displays_.FitWindow(false);
+    displays_.SetTaskbarVisible(true);
+  }
+}
+
 void ScreenSkin::LoadFixedPictures(const std::string& folder) {
   const LayoutReader reader(targets_, folder);
   Slider& volume = form_.volume;

@@ -41,6 +41,8 @@ class ScreenSkin {
 
   // Below 1 the genres have a screen; at 1 the bar in the place of the menu.
   int genre_style() const { return genre_style_; }
+  // "Full Screen Mode..." at the moment that it is switched.
+  void SwitchFullScreen();
   // The display's mode has been changed, and somebody has to restore it.
   bool mode_changed() const { return mode_changed_; }
 

@@ -5,6 +5,7 @@
 
 #include "files/files.h"
 #include "files/line_format.h"
+#include "skins/options_look.h"
 #include "skins/unplaced_look.h"
 #include "text/numbers.h"
 
@@ -35,6 +36,7 @@ void SkinLoader::ApplySkin() {
   FindSpecialLists();
   screens.LoadFixedPictures(folder);
   DressUnplaced(form_);
+  DressOptions(form_);
   // A picture may have its old name and be another file.
   form_.form.Invalidate();
 }

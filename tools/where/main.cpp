@@ -59,6 +59,13 @@ void SayAll(const Form1& form) {
   for (size_t i = 0; i < form.queue.rows.size(); ++i) {
     Say("queue" + std::to_string(i), form.queue.rows[i].track);
   }
+  for (size_t i = 0; i < form.options.sections.size(); ++i) {
+    Say("section" + std::to_string(i), form.options.sections[i]);
+  }
+  Say("options_next", form.options.page_forward);
+  for (size_t i = 0; i < form.pin.keys.size(); ++i) {
+    Say("pin" + std::to_string(i), form.pin.keys[i]);
+  }
   Say("queue_back", form.queue.back);
   Say("full_screen", form.now_playing.full_screen);
   for (size_t i = 0; i < form.search_choice.modes.size(); ++i) {
@@ -94,6 +101,7 @@ void PutOn(Form1& form, const std::string& folder) {
   };
   for (const LayoutFile& file : LayoutFiles()) reader.Read(file);
   if (!window.empty()) form.form.SetPlace(window);
+  form.FitUnplaced();
   FileList pages("*.cov");
   pages.SetFolder(folder);
   CoverLayout layout;
