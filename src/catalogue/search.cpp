@@ -127,6 +127,7 @@ void Search::ShowCommands() {
   show(ResultCommand::kPlayNow, chosen && settings_.play_it_now);
   show(ResultCommand::kPlayNext, chosen && settings_.play_next);
   show(ResultCommand::kAddToQueue, chosen && settings_.add_to_queue);
+  screen_.list_panel.SetVisible(result_count_ == 0 && screen_.lists[0].visible());
 }
 
 void Search::search_clear() {

@@ -41,7 +41,7 @@ class Search {
   void search(SearchMode mode);
   // Paints the rows from result_top() on.
   void search_show();
-  // The commands that have something to act on.
+  // The commands that have something to act on, and the special lists if nothing was found.
   void ShowCommands();
   // Hides the commands and empties the results but the first, which stays; that is meant.
   void search_clear();

@@ -31,9 +31,10 @@ SearchResultsScreen::SearchResultsScreen(Panel& screen, Panel& lists_of_screen)
   AddButton(panel, down, {kSideLeft + 134, 470, 122, 60}, "DOWN", 14);
   AddMainButton(panel, back, kBackPlace, "BACK");
 
-  AddPanel(panel, list_panel, {24, 66, 950, 160}, kRaised);
+  // No skin places it: it fits on the narrowest of them, beside the commands.
+  AddPanel(panel, list_panel, {24, 150, 780, 120}, kRaised);
   for (size_t i = 0; i < lists.size(); ++i) {
-    AddButton(list_panel, lists[i], {16 + 232 * static_cast<float>(i), 30, 222, 100},
+    AddButton(list_panel, lists[i], {16 + 190 * static_cast<float>(i), 24, 178, 72},
               "Rolling Stone Top 500");
     lists[i].SetVisible(false);
   }

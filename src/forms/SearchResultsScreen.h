@@ -33,7 +33,7 @@ struct SearchResultsScreen {
   lvButtons_H up;
   lvButtons_H down;
   lvButtons_H back;
-  // The panel of the special lists lies on this screen.
+  // The special lists, offered where the rows are empty.
   Panel& list_panel;
   std::array<lvButtons_H, kSpecialLists> lists;
 };

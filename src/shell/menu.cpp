@@ -90,6 +90,8 @@ void Menu::OpenGenres() {
     hooks.show_genres();
     return form.ShowScreen(screen::kGenre);
   }
+  // The skin has its own captions on the bar.
+  house_.genres.genre_scroll_show();
   // The bar takes the menu's place, over the album pages.
   form.menu.SetVisible(false);
   form.genre_bar.SetVisible(true);

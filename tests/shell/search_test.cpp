@@ -292,14 +292,19 @@ TEST_F(SearchTest, TheNoteThatItSearchesIsPaintedFirstAndItsBarMoves) {
   EXPECT_EQ(machine.events.pumps, pumps);
 }
 
-TEST_F(SearchTest, ASpecialListLeadsToAnEmptyPage) {
+TEST_F(SearchTest, SpecialListsAreOfferedWhereNothingWasFoundAndLeadToAnEmptyPage) {
   WriteTracks(Numbered(9));
   Start();
-  house().search.list_files[1] = folder.path() + "\\lists\\best.txt";
+  Find(SearchMode::kTrack, "QQ");
+  EXPECT_FALSE(Page().list_panel.visible());
+  folder.Write("lists/best.txt", "1\r\nSONG 1,ADA\r\n");
+  folder.Write("lists/new.txt", "");
+  Start();
   Find(SearchMode::kTrack, "SONG");
-  Page().list_panel.SetVisible(true);
-  Page().lists[1].SetVisible(true);
-  Click(Page().lists[1]);
+  EXPECT_FALSE(Page().list_panel.visible());
+  Find(SearchMode::kTrack, "QQ");
+  EXPECT_FALSE(Page().lists[2].visible());
+  Click(Page().lists[0]);
   EXPECT_TRUE(Rows().empty());
   EXPECT_TRUE(form().panel(screen::kSearchResults).showing());
   EXPECT_FALSE(Page().list_panel.visible());

@@ -22,6 +22,7 @@ void Say(const std::string& name, const Control& control) {
 void SayAll(const Form1& form) {
   Say("window", form.form);
   Say("player", form.player);
+  Say("menu", form.menu);
   Say("position", form.position);
   for (size_t i = 0; i < form.menu_buttons.size(); ++i) {
     Say("menu" + std::to_string(i), form.menu_buttons[i]);
@@ -79,6 +80,10 @@ void SayAll(const Form1& form) {
   Say("result0", form.search_results.rows[0].track);
   Say("results_down", form.search_results.down);
   Say("results_add", form.search_results.commands[static_cast<size_t>(ResultCommand::kAddToQueue)]);
+  Say("results_list0", form.search_results.lists[0]);
+  for (size_t i = 0; i < form.genre_buttons.buttons.size(); ++i) {
+    Say("genre_bar" + std::to_string(i), form.genre_buttons.buttons[i]);
+  }
   for (const size_t i : {0, 10}) Say("genre" + std::to_string(i), form.genre.labels[i]);
   Say("history0", form.history.rows[0].text);
   Say("history_page_up", form.history.steps[static_cast<size_t>(HistoryStep::kPageUp)]);
