@@ -46,6 +46,7 @@ void Decades::ChooseYear(int year) {
 
 void Decades::Step(DecadesStep step) {
   switch (step) {
+    // Past the end of a year it goes on in the same one; that is meant.
     case DecadesStep::kMonthBack:
       month_ = month_ == 1 ? 12 : month_ - 1;
       break;

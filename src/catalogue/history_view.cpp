@@ -4,6 +4,7 @@
 #include "files/files.h"
 #include "files/paths.h"
 #include "text/numbers.h"
+#include "text/text.h"
 
 namespace sonotik {
 
@@ -44,17 +45,19 @@ void HistoryView::FillRow(int row, const HistoryRecord& record, int64_t number) 
   HistoryRow& items = screen_.rows[static_cast<size_t>(row)];
   // A folder that is gone has no first image either, and so gets the skin's picture as well.
   items.cover.SetPicture(covers_.FindCoverPicture(FolderOf(record.Field(HistoryRecord::kPath))));
-  // The fields as they stand, blanks included.
+  // The fields as they stand, blanks included. Artist and track come doubled from the tag, the
+  // album does not.
+  const std::string album = DoubleAmpersands(record.Field(HistoryRecord::kAlbum));
   std::string text = std::to_string(number);
   const struct {
     const char* label;
-    RecordField field;
-  } lines[] = {{"\nArtist: ", HistoryRecord::kArtist},
-               {"\nTrack: ", HistoryRecord::kTrack},
-               {"\nAlbum: ", HistoryRecord::kAlbum},
-               {"\nPlayed At: ", HistoryRecord::kPlayedAt},
-               {"\nPlayed on: ", HistoryRecord::kPlayedOn}};
-  for (const auto& line : lines) text.append(line.label).append(record.Field(line.field));
+    std::string_view value;
+  } lines[] = {{"\nArtist: ", record.Field(HistoryRecord::kArtist)},
+               {"\nTrack: ", record.Field(HistoryRecord::kTrack)},
+               {"\nAlbum: ", album},
+               {"\nPlayed At: ", record.Field(HistoryRecord::kPlayedAt)},
+               {"\nPlayed on: ", record.Field(HistoryRecord::kPlayedOn)}};
+  for (const auto& line : lines) text.append(line.label).append(line.value);
   items.text.SetCaption(text);
 }
 

@@ -9,10 +9,8 @@
 namespace sonotik {
 namespace {
 
+// In the file's order and no more, however many there are; that is meant.
 constexpr int kMostResults = 99;
-// What the bar of a special list counts to.
-constexpr int kListEntries = 500;
-
 constexpr RecordField FieldOf(SearchMode mode) {
   switch (mode) {
     case SearchMode::kArtist:
@@ -59,7 +57,7 @@ void Search::search(SearchMode mode) {
   results_.ClearFrom(0);
   result_count_ = 0;
   chosen_ = -1;
-  ShowHeading();
+  ShowHeading(result_count_, "Songs");
   // The songs that are new have no track file of their own, so nothing is found until a tab is
   // chosen; that is meant.
   if (cursor_.media_kind < kAudio || cursor_.media_kind > kKaraoke) return;
@@ -71,22 +69,23 @@ void Search::search(SearchMode mode) {
   for (int64_t n = 1; n <= count && result_count_ < kMostResults; ++n) {
     const TrackRecord& record = catalogue_.ReadTrackRecord(file, n);
     on_record();
-    if (finder.IsIn(record.Field(field))) AddResult(record);
+    if (finder.IsIn(record.Field(field))) {
+      StoreTrack(static_cast<size_t>(result_count_++), record);
+    }
     progress.Done(n);
   }
-  ShowHeading();
+  ShowHeading(result_count_, "Songs");
 }
 
-void Search::AddResult(const TrackRecord& record) {
-  const auto entry = static_cast<size_t>(result_count_++);
+void Search::StoreTrack(size_t entry, const TrackRecord& record) {
   results_.paths[entry] = record.Field(TrackRecord::kPath);
   results_.artists[entry] = record.Trimmed(TrackRecord::kArtist);
   results_.tracks[entry] = record.Trimmed(TrackRecord::kTrack);
   results_.albums[entry] = record.Trimmed(TrackRecord::kAlbum);
 }
 
-void Search::ShowHeading() {
-  screen_.heading.SetCaption(NumberCaption(result_count_) + " Songs Found, Matching (" +
+void Search::ShowHeading(long count, const char* what) {
+  screen_.heading.SetCaption(NumberCaption(count) + " " + what + " Found, Matching (" +
                              DoubleAmpersands(search_text_) + ")");
 }
 
@@ -145,16 +144,6 @@ void Search::StepPage(int direction) {
     return;
   }
   search_show();
-}
-
-void Search::ShowList(size_t button) {
-  search_clear();
-  results_.ClearFrom(0);
-  screen_.list_panel.SetVisible(false);
-  form1_.ShowScreen(screen::kSearchResults);
-  ScanProgress progress(machine_, form1_.searching);
-  progress.SetCount(kListEntries);
-  if (!list_files[button].empty()) search_show();
 }
 
 bool Search::ChooseRow(int row) {

@@ -50,6 +50,10 @@ class Search {
   void StepPage(int direction);
   // The results page of a special list, which stays empty: the lists aren't read; that is meant.
   void ShowList(size_t button);
+  // Looks up the lines of a special list, "name,artist" behind a line with its kind (0 albums,
+  // 1 songs, 2 videos): what a line has found comes into the results at the line's place, from 0.
+  // Nobody calls it; that is meant. Throws RuntimeFailure for a list without a kind.
+  void chart_show(const std::string& chart_path);
 
   // Marks the track in a row of the page, for the commands. False if the row holds none.
   bool ChooseRow(int row);
@@ -63,8 +67,9 @@ class Search {
   int result_top() const { return result_top_; }
 
  private:
-  void AddResult(const TrackRecord& record);
-  void ShowHeading();
+  void StoreTrack(size_t entry, const TrackRecord& record);
+  void StoreAlbum(size_t entry, const AlbumRecord& record);
+  void ShowHeading(long count, const char* what);
   void ShowRow(int row);
 
   Machine& machine_;

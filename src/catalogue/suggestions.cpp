@@ -19,6 +19,7 @@ bool BeginsWith(std::string_view field, std::string_view key) {
 }  // namespace
 
 void Suggestions::Show(SearchMode mode, const std::string& text) {
+  // There are suggestions of albums alone, so none while somebody types a song; that is meant.
   if (mode == SearchMode::kTrack) return;
   if (!HasSuggestions(cursor_.source)) return Clear();
   const RecordField field =

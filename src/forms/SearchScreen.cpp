@@ -32,6 +32,7 @@ SearchScreen::SearchScreen(Panel& screen) : panel(screen) {
                                           : std::string(1, static_cast<char>('A' + i));
     AddButton(panel, keys[i], KeyPlace(i % 10, 1 + i / 10), caption, i < 26 ? 16 : 12);
   }
+  // Spelled so since ever.
   AddButton(panel, clear, {24, 548, 460, 72}, "Clear Seach", 16);
   AddMainButton(panel, search, {496, 548, 460, 72}, "Search", 16);
   AddMainButton(panel, back, kBackPlace, "BACK");

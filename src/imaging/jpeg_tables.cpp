@@ -77,6 +77,7 @@ const std::array<HuffmanTable, 2> kAcTables = {{
 QuantizationTable::QuantizationTable(int precision, const std::array<uint16_t, kBlockSize>& entries)
     : entries_(entries) {
   if (precision != 0 && precision != 1) {
+    // Spelled so since ever.
     throw RuntimeFailure("Illegal precission in Quantization Table");
   }
   const int most = precision == 0 ? 255 : 65535;

@@ -2,6 +2,7 @@
 
 #include "files/files.h"
 #include "files/paths.h"
+#include "text/text.h"
 
 namespace sonotik {
 
@@ -116,7 +117,7 @@ void ChartWays::TellOthers() {
   Form2& form = house_.form2;
   form.forum_artist.SetCaption(house_.fields.txtArtist);
   form.forum_title.SetCaption(house_.fields.txtTitle);
-  form.forum_album.SetCaption(house_.fields.txtAlbum);
+  form.forum_album.SetCaption(DoubleAmpersands(house_.fields.txtAlbum));
   form.forum_cover.SetPicture(house_.form1.now_playing_cover.picture());
   house_.boundary.Run("form_image", form_image);
   // The operator's own; what is in it is his.

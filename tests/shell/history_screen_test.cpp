@@ -15,7 +15,7 @@ std::string HistoryBytes(const std::string& path, const std::string& artist,
   };
   put(HistoryRecord::kArtist, artist);
   put(HistoryRecord::kTrack, track);
-  put(HistoryRecord::kAlbum, "Day");
+  put(HistoryRecord::kAlbum, "D&A");
   put(HistoryRecord::kPath, path);
   put(HistoryRecord::kPlayedOn, "01/15/2024");
   put(HistoryRecord::kPlayedAt, "11:59:00");
@@ -62,7 +62,7 @@ TEST_F(HistoryScreenTest, ShowsNinePlaysNewestFirstWithTheirFieldsAsTheyStand) {
   Open(MenuButton::kHistory);
   const auto blanks = [](size_t used) { return std::string(255 - used, ' '); };
   EXPECT_EQ(Text(0), "0\nArtist: Ada" + blanks(3) + "\nTrack: Song 12" + blanks(7) +
-                         "\nAlbum: Day" + blanks(3) + "\nPlayed At: 11:59:00" +
+                         "\nAlbum: D&&A" + blanks(3) + "\nPlayed At: 11:59:00" +
                          std::string(17, ' ') + "\nPlayed on: 01/15/2024" + std::string(15, ' '));
   EXPECT_EQ(Text(8).substr(0, 2), "8\n");
   EXPECT_EQ(Song(8), "Song 4");
@@ -223,8 +223,9 @@ TEST_F(HistoryScreenTest, EachPlayTellsOthersAndNoFailureOfTheirsKeepsItFromPlay
             form.forum_album.caption() + ", " + NameOf(form.forum_cover.picture());
     throw RuntimeFailure("no disk");
   };
+  folder.Write("music/Day/1.wav.tag", Sidecar("A&B", "Song 1", "C&D", "0:30"));
   house().selection.Choose(tracks[0], PlayWay::kPlayNow);
-  EXPECT_EQ(drawn, "Ada, Song 1, Day, Cover.jpg");
+  EXPECT_EQ(drawn, "A&&B, Song 1, C&&D, Cover.jpg");
   EXPECT_EQ(machine.player.file, tracks[0]);
   EXPECT_EQ(facts, 1);
   const std::vector<std::string> script{folder.path() + "\\test.bat"};
