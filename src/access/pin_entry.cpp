@@ -60,7 +60,7 @@ void PinEntry::Log(const std::string& text) const {
   const DateTime now = clock_.Now();
   try {
     AppendToFile(app_path_ + "\\password.txt",
-                 DateText(now.date) + " " + TimeText(now) + text + "\r\n");
+                 DateText(now.date) + " " + TimeText(now) + text + "\r\n", FileAccess::kOwnerOnly);
   } catch (const RuntimeFailure&) {
     // A full disk must not lock the operator out.
   }

@@ -179,7 +179,7 @@ void SettingsFile::SaveConfig() const {
       }
     }
   }
-  ReplaceFile(app_path_ + "\\sonotik.ini", writer.text());
+  ReplaceFile(app_path_ + "\\sonotik.ini", writer.text(), FileAccess::kOwnerOnly);
 }
 
 }  // namespace sonotik

@@ -29,6 +29,10 @@ class Handle {
   Handle& operator=(const Handle&) = delete;
   bool open() const { return fd_ >= 0; }
   int get() const { return fd_; }
+  // A file system without modes keeps its own ways.
+  void Restrict(FileAccess access) const {
+    if (access == FileAccess::kOwnerOnly && ::fchmod(fd_, 0600) != 0) return;
+  }
 
  private:
   int fd_;
@@ -91,13 +95,14 @@ std::string ReadWholeFile(std::string_view path) {
   }
 }
 
-void ReplaceFile(std::string_view path, std::string_view bytes) {
+void ReplaceFile(std::string_view path, std::string_view bytes, FileAccess access) {
   const fs::path target = NativePath(path);
   fs::path beside = target;
   beside += ".part";
   {
     const Handle file(beside, O_WRONLY | O_CREAT | O_TRUNC);
     if (!file.open()) FailWithErrno("cannot create", path);
+    file.Restrict(access);
     if (!WriteAll(file.get(), bytes) || ::fsync(file.get()) != 0) {
       const int error = errno;
       ::unlink(beside.c_str());
@@ -114,9 +119,10 @@ void ReplaceFile(std::string_view path, std::string_view bytes) {
   FlushFolder(target.parent_path());
 }
 
-void AppendToFile(std::string_view path, std::string_view bytes) {
+void AppendToFile(std::string_view path, std::string_view bytes, FileAccess access) {
   const Handle file(NativePath(path), O_WRONLY | O_CREAT | O_APPEND);
   if (!file.open()) FailWithErrno("cannot open", path);
+  file.Restrict(access);
   if (!WriteAll(file.get(), bytes)) FailWithErrno("cannot write", path);
 }
 

@@ -27,13 +27,19 @@ FileStamp StampOf(std::string_view path);
 // The whole file. Throws RuntimeFailure if it can't be read.
 std::string ReadWholeFile(std::string_view path);
 
+// Who may read a file that is made: whoever the user's own settings allow, or nobody else, where a
+// PIN stands in it.
+enum class FileAccess { kUsual, kOwnerOnly };
+
 // Puts a new file in the place of an old one: written beside it, flushed to the disk and renamed
 // over it, so that a power cut leaves the old one or the new one. Throws RuntimeFailure, and then
 // the old file still stands.
-void ReplaceFile(std::string_view path, std::string_view bytes);
+void ReplaceFile(std::string_view path, std::string_view bytes,
+                 FileAccess access = FileAccess::kUsual);
 
 // Writes behind what is there; a missing file is made. Throws RuntimeFailure.
-void AppendToFile(std::string_view path, std::string_view bytes);
+void AppendToFile(std::string_view path, std::string_view bytes,
+                  FileAccess access = FileAccess::kUsual);
 
 // No error if it isn't there; throws RuntimeFailure if it can't be deleted.
 void DeleteFileIfThere(std::string_view path);

@@ -49,6 +49,20 @@ TEST(Files, AReplacedFileIsWholeAndLeavesNothingBeside) {
   EXPECT_THROW(ReplaceFile(folder.path() + "\\gone\\queue.dat", "x"), RuntimeFailure);
 }
 
+TEST(Files, WhatHoldsAPinIsForItsOwnerAlone) {
+  const TempFolder folder;
+  const auto others = [&](const char* name) {
+    return std::filesystem::status(folder.native() / name).permissions() &
+           (std::filesystem::perms::group_all | std::filesystem::perms::others_all);
+  };
+  // Also where it was made before for everybody.
+  folder.Write("log.txt", "old");
+  AppendToFile(folder.path() + "\\log.txt", "1234", FileAccess::kOwnerOnly);
+  ReplaceFile(folder.path() + "\\settings.ini", "1234", FileAccess::kOwnerOnly);
+  EXPECT_EQ(others("log.txt"), std::filesystem::perms::none);
+  EXPECT_EQ(others("settings.ini"), std::filesystem::perms::none);
+}
+
 TEST(Files, OneFolderIsHeldOnce) {
   const TempFolder folder;
   FolderLock first;
