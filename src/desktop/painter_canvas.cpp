@@ -11,7 +11,8 @@ namespace sonotik {
 namespace {
 
 constexpr double kPixelsPerPoint = 96.0 / 72.0;
-constexpr double kMostPixels = 4096;  // of a picture's longer side
+constexpr double kMostPixels = 4096;   // of a picture's longer side
+constexpr double kLeastLetters = 0.7;  // of a text that doesn't fit its place
 // A picture that can't be decoded.
 constexpr Color kPlate = Rgb(48, 52, 70);
 
@@ -45,6 +46,38 @@ QFont FontOf(const Font& font) {
   made.setPixelSize(std::max(1, static_cast<int>(std::lround(font.points * kPixelsPerPoint))));
   made.setBold(font.bold);
   return made;
+}
+
+// A text as it can be shown in a place.
+struct FittedText {
+  QFont font;
+  QString text;
+};
+
+bool Fits(const FittedText& fitted, const QSizeF& room, int flags) {
+  const QFontMetricsF metrics(fitted.font);
+  const QRectF needed = metrics.boundingRect(QRectF(0, 0, room.width(), 1e6), flags, fitted.text);
+  // A place may be as low as its letters: what hangs below the last line has air to hang into.
+  return needed.width() <= room.width() + 1 && needed.height() - metrics.descent() <= room.height();
+}
+
+FittedText Fit(FittedText fitted, const QSizeF& room, int flags) {
+  const int least = static_cast<int>(std::ceil(fitted.font.pixelSize() * kLeastLetters));
+  bool fits = Fits(fitted, room, flags);
+  while (!fits && fitted.font.pixelSize() > least) {
+    fitted.font.setPixelSize(fitted.font.pixelSize() - 1);
+    fits = Fits(fitted, room, flags);
+  }
+  if ((flags & Qt::TextWordWrap) == 0 && !fitted.text.contains(QLatin1Char('\n'))) {
+    fitted.text = QFontMetricsF(fitted.font).elidedText(fitted.text, Qt::ElideRight, room.width());
+    return fitted;
+  }
+  // The toolkit shortens single lines only.
+  while (!fits && fitted.text.size() > 2) {
+    fitted.text = fitted.text.left((fitted.text.size() - 1) * 9 / 10) + QChar(0x2026);
+    fits = Fits(fitted, room, flags);
+  }
+  return fitted;
 }
 
 int FlagsOf(const TextStyle& style) {
@@ -135,14 +168,11 @@ void PainterCanvas::DrawPixels(const PixelSurface& pixels, const Rect& rect) {
 }
 
 void PainterCanvas::DrawText(const std::string& text, const Rect& rect, const TextStyle& style) {
-  const QFont font = FontOf(style.font);
-  QString shown = Decode(text);
-  if (!style.wrap && !shown.contains(QLatin1Char('\n'))) {
-    shown = QFontMetricsF(font).elidedText(shown, Qt::ElideRight, rect.width);
-  }
-  painter_.setFont(font);
+  const int flags = FlagsOf(style);
+  const FittedText fitted = Fit({FontOf(style.font), Decode(text)}, RectOf(rect).size(), flags);
+  painter_.setFont(fitted.font);
   painter_.setPen(ColorOf(style.color));
-  painter_.drawText(RectOf(rect), FlagsOf(style), shown);
+  painter_.drawText(RectOf(rect), flags, fitted.text);
 }
 
 Rect PainterCanvas::MeasureText(const std::string& text, const TextStyle& style, float width) {

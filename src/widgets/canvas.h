@@ -25,7 +25,8 @@ struct TextStyle {
   Font font;
   Color color = 0;
   Align align = Align::kLeft;
-  // Several lines where the width asks for it. A single line that is too long ends in an ellipsis.
+  // Several lines where the width asks for it. What doesn't fit is written in smaller letters, and
+  // what doesn't fit even so ends in an ellipsis.
   bool wrap = false;
 };
 

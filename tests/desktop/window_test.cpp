@@ -77,6 +77,44 @@ TEST_F(WindowTest, ATouchFindsItsControlAtAnyWindowSize) {
   }
 }
 
+// Collects what a window paints.
+class PaintedRegion : public QObject {
+ public:
+  bool eventFilter(QObject*, QEvent* event) override {
+    if (event->type() == QEvent::Paint) region += static_cast<QPaintEvent*>(event)->region();
+    return false;
+  }
+  QRegion region;
+};
+
+TEST_F(WindowTest, HoveringAButtonRepaintsThatButtonAlone) {
+  Start();
+  ShowWindow();
+  window->resize(1280, 800);
+  Settle();
+  PaintedRegion painted;
+  window->installEventFilter(&painted);
+  const auto pixels_of = [](const Control& control) {
+    const Rect place = control.AbsolutePlace();
+    return QRectF(place.left, place.top, place.width, place.height).toAlignedRect();
+  };
+  // The one that the mouse has left is painted, too.
+  QRegion left;
+  for (const lvButtons_H* button :
+       {&form().menu_buttons[0], &form().album.next, &form().album.letter_buttons[3]}) {
+    painted.region = {};
+    const QRect place = pixels_of(*button);
+    QMouseEvent event(QEvent::MouseMove, place.center(), place.center(), Qt::NoButton, Qt::NoButton,
+                      Qt::NoModifier);
+    QCoreApplication::sendEvent(window.get(), &event);
+    Settle();
+    EXPECT_TRUE(painted.region.contains(place)) << button->caption();
+    const QRegion allowed = QRegion(place.adjusted(-1, -1, 1, 1)) + left;
+    EXPECT_TRUE((painted.region - allowed).isEmpty()) << button->caption();
+    left = place.adjusted(-1, -1, 1, 1);
+  }
+}
+
 TEST_F(WindowTest, PaintsASkinWhoseNumbersMakeNoSense) {
   Start();
   ShowWindow();
@@ -223,6 +261,41 @@ TEST(Fonts, TheFontOfTheDesignIsTheOneThatIsTaken) {
   const Font font;
   EXPECT_EQ(QFontInfo(QFont(QString::fromStdString(font.family))).family(),
             QString::fromStdString(font.family));
+}
+
+// Where a text leaves its marks on white paper.
+QRect MarksOf(const std::string& text, const Rect& place, bool wrap) {
+  QImage paper(400, 200, QImage::Format_RGB32);
+  paper.fill(Qt::white);
+  QPainter painter(&paper);
+  PictureCache pictures;
+  PainterCanvas canvas(painter, pictures, {0, 0, 400, 200}, 1);
+  canvas.DrawText(text, place, {{.points = 12}, kBlack, Align::kLeft, wrap});
+  painter.end();
+  QRegion marks;
+  for (int y = 0; y < paper.height(); ++y) {
+    for (int x = 0; x < paper.width(); ++x) {
+      if (qGray(paper.pixel(x, y)) < 200) marks += QRect(x, y, 1, 1);
+    }
+  }
+  return marks.boundingRect();
+}
+
+TEST(Texts, ThatDoNotFitAreWrittenSmallerAndThenCut) {
+  const Rect place{100, 60, 120, 40}, wide{100, 60, 290, 40};
+  EXPECT_EQ(MarksOf("Folk", place, true), MarksOf("Folk", wide, true));
+  // As a whole, but smaller.
+  EXPECT_LT(MarksOf("Big Band Orchestra", place, false).height(),
+            MarksOf("Big Band Orchestra", wide, false).height());
+  for (const bool wrap : {true, false}) {
+    for (const std::string& text :
+         {std::string("Alternative Country Rock"), std::string("Counterrevolutionaries"),
+          std::string(1024, 'x'), std::string("one\ntwo\nthree\nfour\nfive")}) {
+      const QRect marks = MarksOf(text, place, wrap);
+      EXPECT_FALSE(marks.isEmpty()) << text;
+      EXPECT_TRUE(QRect(98, 60, 124, 42).contains(marks)) << text;
+    }
+  }
 }
 
 TEST(TextDecoding, TakesUtf8WhereItIsValidAndTheOldCodePageElsewhere) {
