@@ -9,8 +9,9 @@ void AddRow(Panel& panel, ChartRow& row, float left, float top) {
   AddPicture(panel, row.cover, {left, top, 96, 96});
   AddLabel(panel, row.artist, {left + 108, top, 350, 26}, 12, kAmber);
   AddLabel(panel, row.track, {left + 108, top + 26, 350, 26}, 13, kText, Align::kLeft, true);
-  AddButton(panel, row.play_now, {left + 108, top + 54, 150, 42}, "Play NOW");
-  AddButton(panel, row.add_queue, {left + 268, top + 54, 150, 42}, "Add Queue");
+  // As low as a finger can do with on the smallest screen.
+  AddButton(panel, row.play_now, {left + 108, top + 55, 150, 52}, "Play NOW");
+  AddButton(panel, row.add_queue, {left + 268, top + 55, 150, 52}, "Add Queue");
   row.play_now.SetVisible(false);
   row.add_queue.SetVisible(false);
 }
@@ -58,7 +59,7 @@ DecadesScreen::DecadesScreen(Panel& screen) : panel(screen) {
   AddLabel(panel, year_caption, {522, 8, 206, 50}, 18, kAmber, Align::kCenter, true);
   for (size_t i = 0; i < rows.size(); ++i) {
     AddRow(panel, rows[i], 24 + 480 * static_cast<float>(i / 5),
-           70 + 112 * static_cast<float>(i % 5));
+           66 + 114 * static_cast<float>(i % 5));
   }
   panel.Add(chart_picture, {kSideLeft, 70, kSideWidth, 256});
   AddMainButton(panel, back, kBackPlace, "BACK");

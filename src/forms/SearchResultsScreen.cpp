@@ -14,11 +14,11 @@ SearchResultsScreen::SearchResultsScreen(Panel& screen, Panel& lists_of_screen)
   for (size_t i = 0; i < rows.size(); ++i) {
     ResultRow& row = rows[i];
     const float top = 66 + 80 * static_cast<float>(i);
+    AddLabel(panel, row.blank, {24, top, 950, 72}, 12);
     AddLabel(panel, row.number, {24, top + 16, 60, 40}, 15, kMuted, Align::kCenter);
     AddPicture(panel, row.cover, {92, top, 72, 72});
-    AddLabel(panel, row.track, {180, top + 4, 600, 32}, 14, kText, Align::kLeft, true);
-    AddLabel(panel, row.artist, {180, top + 38, 600, 28}, 12, kAmber);
-    AddLabel(panel, row.blank, {790, top, 184, 72}, 12);
+    AddLabel(panel, row.track, {180, top + 4, 786, 32}, 14, kText, Align::kLeft, true);
+    AddLabel(panel, row.artist, {180, top + 38, 786, 28}, 12, kAmber);
   }
 
   static constexpr const char* kCommands[] = {"New Search", "Add ALL To Queue", "Play NOW",

@@ -16,7 +16,7 @@ struct ResultRow {
   Label number;
   Label artist;
   Label track;
-  // Says nothing and can be touched like the others.
+  // Says nothing, lies behind the others and can be touched like them.
   Label blank;
 };
 

@@ -37,15 +37,18 @@ std::string CaptionAsShown(const std::string& caption) {
   return shown;
 }
 
+void Label::SetPlate(std::optional<Color> color) {
+  if (color) Change(margin_, kPlateMargin);
+  Change(plate_, color);
+}
+
 void Label::Paint(Canvas& canvas) const {
   const Rect inner{0, 0, place().width, place().height};
-  const bool plate = highlighted_ || plate_;
-  if (plate) canvas.FillRect(inner, highlighted_ ? back_color_ : *plate_, 4);
+  if (highlighted_ || plate_) canvas.FillRect(inner, highlighted_ ? back_color_ : *plate_, 4);
   if (caption_.empty()) return;
-  const float margin = plate ? kPlateMargin : 0;
   std::string shown = CaptionAsShown(caption_);
   if (style_.wrap) shown = WithoutBlanksAtLineEnds(shown);
-  canvas.DrawText(shown, {margin, 0, inner.width - 2 * margin, inner.height}, style_);
+  canvas.DrawText(shown, {margin_, 0, inner.width - 2 * margin_, inner.height}, style_);
 }
 
 void PictureBox::Paint(Canvas& canvas) const {

@@ -29,8 +29,9 @@ class Label : public Control {
   void SetBackColor(Color color) { Change(back_color_, color); }
   bool highlighted() const { return highlighted_; }
   void SetHighlighted(bool highlighted) { Change(highlighted_, highlighted); }
-  // A plate behind the text of a row that isn't highlighted.
-  void SetPlate(std::optional<Color> color) { Change(plate_, color); }
+  // A plate behind the text of a row that isn't highlighted. The text keeps off its edges from then
+  // on, also where a skin takes the plate away: a row that lights up must not move its text.
+  void SetPlate(std::optional<Color> color);
 
   void Paint(Canvas& canvas) const override;
 
@@ -39,6 +40,7 @@ class Label : public Control {
   TextStyle style_;
   Color back_color_ = 0;
   std::optional<Color> plate_;
+  float margin_ = 0;
   bool highlighted_ = false;
 };
 

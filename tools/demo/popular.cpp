@@ -83,15 +83,16 @@ QByteArray Chart(const QString& root, int month, bool resolved) {
 void MakePicture(const QString& path) {
   constexpr int kFrames = 18;
   const QString part = path + ".part";
-  Encoder encoder({"-f", "rawvideo", "-pix_fmt", "bgr0", "-s", QString("%1x%1").arg(kPictureSize),
+  Encoder encoder({"-f", "rawvideo", "-pix_fmt", "bgra", "-s", QString("%1x%1").arg(kPictureSize),
                    "-r", "15", "-i", "pipe:0", "-vf",
                    "split[a][b];[a]palettegen=max_colors=64[p];[b][p]paletteuse=dither=none",
                    "-loop", "0", "-f", "gif"},
                   part);
   const QPointF middle(kPictureSize / 2.0, kPictureSize / 2.0);
   for (int i = 0; i < kFrames; ++i) {
-    QImage frame(kPictureSize, kPictureSize, QImage::Format_RGB32);
-    frame.fill(QColor(0x101220));
+    // What lies around it is the skin's.
+    QImage frame(kPictureSize, kPictureSize, QImage::Format_ARGB32);
+    frame.fill(Qt::transparent);
     QPainter painter(&frame);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);

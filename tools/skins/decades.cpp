@@ -10,13 +10,13 @@ using F = FieldKind;
 void LayOutRows(Sheet& sheet, PanelPicture& picture) {
   const Design& d = sheet.design();
   for (int i = 0; i < 10; ++i) {
-    const Rect form{24 + 480 * static_cast<float>(i / 5), 70 + 112 * static_cast<float>(i % 5), 0,
+    const Rect form{24 + 480 * static_cast<float>(i / 5), 66 + 114 * static_cast<float>(i % 5), 0,
                     0};
-    const Rect plate = Share(d, {form.left - 6, form.top - 5, 472, 106});
+    const Rect plate = Share(d, {form.left - 6, form.top - 2, 472, 111});
     picture.Plate(plate);
-    const Rect text = Share(d, {form.left + 108, form.top - 2, 350, 30});
-    const Rect below = Share(d, {form.left + 108, form.top + 26, 350, 27});
-    const Rect room = Share(d, {form.left, form.top, 104, 96});
+    const Rect text = Share(d, {form.left + 108, form.top, 350, 28});
+    const Rect below = Share(d, {form.left + 108, form.top + 28, 350, 25});
+    const Rect room = Share(d, {form.left, form.top, 104, 107});
     const float side = std::min(room.width, room.height) - 4;
     sheet.Box("decades.cover", i,
               Whole({room.left, room.top + (room.height - side) / 2, side, side}));
@@ -82,7 +82,7 @@ void LayOutDecades(Sheet& sheet) {
   LayOutRows(sheet, picture);
 
   // Month and year, each between its two steps; above the pickers, which begin below them.
-  const float high = wide ? 64 : 46;
+  const float high = wide ? 64 : 48;
   const float top = std::round((Share(d, {0, 0, 0, 60}).height - high) / 2);
   const auto step = [&](int index, float left, Icon icon) {
     sheet.Button("decades.step", index, {left, top, high * 1.25F, high}, "", Look::kPlain, icon);

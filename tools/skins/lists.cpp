@@ -31,11 +31,20 @@ void LayOutTrackList(Sheet& sheet) {
   Rect content = picture.content();
   Rect side = TakeSide(d, content);
   PlaceBack(sheet, "trackList.back", side);
-  static constexpr const char* kCommands[] = {"Play NOW",         "Play NEXT",       "Add To Queue",
-                                              "Add Entire Album", "Add To Carousel", "Burn CD",
-                                              "DOWNLOAD"};
-  for (int i = 0; i < 7; ++i) {
-    sheet.Button("trackList.command", i, TakeCommand(d, side), kCommands[i], Look::kPlain);
+  // What is for a chosen track comes and goes, and stands together; the album's own is always
+  // there.
+  sheet.Button("trackList.command", 3, TakeBottom(side, d.button_height, d.gap), "Add Entire Album",
+               Look::kPlain);
+  struct Command {
+    int index;
+    const char* caption;
+  };
+  static constexpr Command kCommands[] = {{0, "Play NOW"},     {1, "Play NEXT"},
+                                          {2, "Add To Queue"}, {4, "Add To Carousel"},
+                                          {5, "Burn CD"},      {6, "DOWNLOAD"}};
+  for (const Command& command : kCommands) {
+    sheet.Button("trackList.command", command.index, TakeCommand(d, side), command.caption,
+                 Look::kPlain);
   }
 
   // Cover, names, and the artist's other albums.
@@ -68,11 +77,9 @@ void LayOutTrackList(Sheet& sheet) {
     row = {row.left + 4, row.top + 1, row.width - 8, row.height - 2};
     Rect title = row;
     const Rect length = TakeRight(title, time, 0);
-    // The text keeps off the plate's edges.
-    TakeLeft(title, d.picture_gap, 0);
     sheet.Text("trackList.title", i, title, Type::kBody, Ink::kPlate);
     // It overlaps the title, so that both are marked as one.
-    sheet.Text("trackList.time", i, {length.left - 8, length.top, length.width, length.height},
+    sheet.Text("trackList.time", i, {length.left - 8, length.top, length.width + 8, length.height},
                Type::kBody, Ink::kPlateMuted);
   }
   sheet.SetColor("trackList.lines", 0, FieldKind::kForeColor, d.InkOf(Ink::kPlate));
@@ -159,28 +166,31 @@ void LayOutTop20(Sheet& sheet) {
   picture.Save("top20", "screen", 1);
 }
 
+// Six lines of text want the whole width, so the buttons stand below.
 void LayOutHistory(Sheet& sheet) {
   const Design& d = sheet.design();
+  const bool wide = d.width > 1400;
   PanelPicture picture(sheet, d.Screen());
   Rect content = picture.content();
-  Rect side = TakeSide(d, content);
-  PlaceBack(sheet, "history.back", side);
+  Rect foot = TakeBottom(content, d.button_height, wide ? d.margin : d.gap * 1.5F);
+  Rect corner = TakeRight(foot, d.side, d.margin);
+  PlaceBack(sheet, "history.back", corner);
+  Rect steps = TakeRight(foot, wide ? 880 : 504, d.margin);
+  const auto places = Grid(steps, 4, 1, d.gap);
   static constexpr const char* kSteps[] = {"Previous", "Next", "Page Up", "Page Down"};
-  for (int i = 0; i < 4; ++i) {
-    sheet.Button("history.step", i, TakeCommand(d, side), kSteps[i], Look::kPlain);
+  for (size_t i = 0; i < places.size(); ++i) {
+    sheet.Button("history.step", static_cast<int>(i), places[i], kSteps[i], Look::kPlain);
   }
-  const float line = std::round(d.Points(Type::kBody) * 1.9F);
-  sheet.Text("history.total", 0, TakeBottom(content, line, d.gap), Type::kBody, Ink::kStageMuted);
+  sheet.Text("history.total", 0, Whole(foot), Type::kBody, Ink::kStageMuted);
   const auto cells = Grid(content, 3, 3, d.gap * 1.5F);
   for (int i = 0; i < 9; ++i) {
     Rect cell = cells[static_cast<size_t>(i)];
     picture.Plate(cell);
     cell = cell.Inset(d.picture_gap);
-    // Six lines of text need the width more than the cover does.
-    const float cover = std::round(cell.width * (d.width > 1400 ? 0.36F : 0.3F));
-    Rect left = TakeLeft(cell, cover, d.picture_gap * 1.5F);
+    const float cover = std::round(cell.width * (wide ? 0.32F : 0.3F));
+    Rect left = TakeLeft(cell, cover, 0);
     sheet.Box("history.cover", i, Centered(left, cover, cover));
-    sheet.Text("history.row", i, Whole(cell), Type::kSmall, Ink::kPlate);
+    sheet.Text("history.row", i, Whole(cell), Type::kBody, Ink::kPlate);
   }
   sheet.SetColors("history.lines", 0, d.highlight, d.InkOf(Ink::kPlate));
   picture.Save("history", "screen", 0);

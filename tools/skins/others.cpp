@@ -94,8 +94,8 @@ void LayOutPlayOptions(Sheet& sheet) {
   sheet.Box("screen", 13, d.Screen());
   PanelPicture picture(sheet, d.Screen());
   // One card in the middle: the cover at its left, the names and commands beside it.
-  const float button = wide ? 96 : 64;
-  const Rect card = Centered(picture.inside(), wide ? 1520 : 900, wide ? 680 : 468);
+  const float button = wide ? 96 : 60;
+  const Rect card = Centered(picture.inside(), wide ? 1560 : 900, wide ? 720 : 468);
   picture.Group(card);
   Rect inside = card.Inset(wide ? 48 : 28);
   const float line = std::round(d.Points(Type::kLarge) * 2);
@@ -115,13 +115,13 @@ void LayOutPlayOptions(Sheet& sheet) {
   sheet.Button("playOptions.command", 4, TakeBottom(inside, d.button_height, d.margin), "Cancel",
                Look::kPlain);
   const Rect offers = inside;
-  const auto cells =
-      Grid({inside.left, inside.top, inside.width, 2 * button + d.gap * 2}, 2, 2, d.gap * 2);
-  static constexpr const char* kCommands[] = {"Play Now", "Play Next", "Add To Queue", "DOWNLOAD"};
-  for (int i = 0; i < 4; ++i) {
-    sheet.Button("playOptions.command", i, cells[static_cast<size_t>(i)], kCommands[i],
-                 i == 0 ? Look::kPrimary : Look::kPlain);
-  }
+  sheet.Button("playOptions.command", 0, TakeTop(inside, button, d.gap * 2), "Play Now",
+               Look::kPrimary);
+  const auto pair = Grid(TakeTop(inside, button, d.gap * 2), 2, 1, d.gap * 2);
+  sheet.Button("playOptions.command", 1, pair[0], "Play Next", Look::kPlain);
+  sheet.Button("playOptions.command", 2, pair[1], "Add To Queue", Look::kPlain);
+  sheet.Button("playOptions.command", 3, TakeTop(inside, d.button_height, 0), "DOWNLOAD",
+               Look::kPlain);
   // In the buttons' place while coins are wanted.
   const auto lines = Grid(offers, 1, 3, d.gap);
   for (int i = 0; i < 3; ++i) {

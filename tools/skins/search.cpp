@@ -19,7 +19,7 @@ void LayOutKeyboard(Sheet& sheet) {
   picture.Entry(entry);
   const bool paper = d.InkOf(Ink::kPlate) != d.InkOf(Ink::kStage);
   sheet.Text("search.entry", 0,
-             {entry.left + d.margin, entry.top + 2, entry.width - 2 * d.margin, entry.height - 4},
+             {entry.left + d.gap, entry.top + 2, entry.width - 2 * d.gap, entry.height - 4},
              Type::kTitle, paper ? Ink::kPlate : Ink::kStage);
   sheet.SetColors("search.entry", 0, d.highlight, d.InkOf(Ink::kPlate));
   for (int i = 0; i < 3; ++i) {
@@ -113,14 +113,13 @@ void LayOutResults(Sheet& sheet) {
   for (int i = 0; i < 7; ++i) {
     Rect plate = rows[static_cast<size_t>(i)];
     picture.Plate(plate);
+    // Says nothing: what a chosen row stands on.
+    sheet.Text("results.blank", i, plate, Type::kSmall, Ink::kPlateMuted);
     sheet.Text("results.number", i, TakeLeft(plate, wide ? 72 : 40, 0), Type::kTitle,
                Ink::kPlateMuted);
     plate = {plate.left, plate.top + d.picture_gap, plate.width - d.picture_gap,
              plate.height - 2 * d.picture_gap};
     sheet.Box("results.cover", i, TakeLeft(plate, plate.height, d.picture_gap * 2));
-    // Says nothing, and takes the touch at the row's end.
-    sheet.Text("results.blank", i, Whole(TakeRight(plate, std::round(plate.width / 5), d.gap)),
-               Type::kSmall, Ink::kPlateMuted);
     const float upper = std::round(plate.height * 0.55F);
     sheet.Text("results.track", i, TakeTop(plate, upper, 0), Type::kLarge, Ink::kPlate);
     sheet.Text("results.artist", i, plate, Type::kBody, Ink::kPlateAccent);
