@@ -147,6 +147,8 @@ void Form1::ShowScreen(size_t index) {
   ++screens_shown_;
   panels[index].SetVisible(true);
   panels[index].BringToFront();
+  // A fact of the song that plays lies over all screens.
+  if (song_fact.visible()) song_fact.BringToFront();
 }
 
 }  // namespace sonotik

@@ -37,6 +37,9 @@ TEST_F(FactDisplayTest, FactsAreSpacedOverTheTrackAndAnEmptyOneUsesItsTurn) {
     sign.push_back(line1 + "/" + line2);
   };
   house().selection.Choose(dawn, PlayWay::kPlayNow);
+  // Whatever screen the guest turns to.
+  form().ShowScreen(screen::kNowPlaying);
+  EXPECT_EQ(form().form.children().back(), &form().song_fact);
   const struct {
     int seconds;
     const char* fact;

@@ -1,5 +1,6 @@
 // Makes the demo jukebox's media in a folder: FOLDER/music, FOLDER/videos and FOLDER/karaoke; and
-// what its guests have played so far, with the charts.
+// what its guests have played so far, with the charts, and what it shows and plays when it is
+// alone.
 #include <QBuffer>
 #include <QDir>
 #include <QFile>
@@ -17,6 +18,7 @@
 #include <vector>
 
 #include "tools/demo/albums.h"
+#include "tools/demo/alone.h"
 #include "tools/demo/karaoke.h"
 #include "tools/demo/media.h"
 #include "tools/demo/popular.h"
@@ -174,6 +176,7 @@ void Run(const QString& root) {
     MakeAllMedia(root, stamp);
   }
   MakePopular(root, QDate::currentDate());
+  MakeAlone(root, QDate::currentDate());
 }
 
 }  // namespace
