@@ -90,7 +90,10 @@ void SettingsFile::ReadRow(FieldReader& reader, const SettingRow& row, Settings&
         changed = Assign(into.**number, static_cast<int>(reader.Int32()));
         break;
       case SettingKind::kIndex:
-        changed = Assign(into.**number, ReadIndex(reader, lists_.*value.list));
+        // A monitor that is off now may be there again at the next start: its number is kept.
+        changed = Assign(into.**number, value.list == &OptionLists::monitors
+                                            ? static_cast<int>(reader.Int16())
+                                            : ReadIndex(reader, lists_.*value.list));
         break;
       case SettingKind::kCheck:
         changed = Assign(into.**check, reader.Check());

@@ -11,8 +11,10 @@
 #include "desktop/form_window.h"
 #include "desktop/logind_session.h"
 #include "desktop/mpv_player.h"
+#include "desktop/qt_displays.h"
 #include "desktop/qt_machine.h"
 #include "desktop/signals.h"
+#include "desktop/video_hosts.h"
 #include "desktop/x11_keys.h"
 #include "files/paths.h"
 #include "files/program_folder.h"
@@ -46,20 +48,20 @@ int RunJukebox(const std::string& app_path) {
                   displays, processes, messages, coins,  session};
   PictureCache pictures;
   Jukebox jukebox(app_path, machine);
-  Form1& form1 = jukebox.house.form1;
-  player.on_frame = [&] {
-    form1.now_playing.video.SetPixels(&player.pixels());
-    form1.now_playing.video.Invalidate();
-  };
+  Assembly& house = jukebox.house;
+  const VideoHosts hosts(player, house.form1, house.form3);
   jukebox.chart_ways.form_image = [&] {
-    Form2& form2 = jukebox.house.form2;
+    Form2& form2 = house.form2;
     form2.forum_file = form_image(DrawnPixels(form2.forum, pictures), app_path);
   };
   loop.Drive(timers);
 
-  FormWindow window(form1.form, pictures);
-  window.may_close = [&jukebox] { return jukebox.MayClose(); };
-  FormWindow splash(jukebox.house.splash.form, pictures);
+  FormWindow window(house.form1.form, pictures);
+  FormWindow second(house.form3.form, pictures);
+  for (FormWindow* stays : {&window, &second}) {
+    stays->may_close = [&jukebox] { return jukebox.MayClose(); };
+  }
+  FormWindow splash(house.splash.form, pictures);
   splash.setWindowFlags(Qt::SplashScreen);
   splash.move(QGuiApplication::primaryScreen()->geometry().center() - splash.rect().center());
   jukebox.start_up.hooks.show_splash = [&](bool visible) {
@@ -68,12 +70,11 @@ int RunJukebox(const std::string& app_path) {
   };
   const EndSignals signals([&jukebox] { jukebox.LeaveInOrder(); });
   displays.SetWindow(&window);
+  displays.SetSecondWindow(&second);
 
   if (jukebox.Start() != StartUpResult::kRunning) return 0;
   window.show();
-  const int status = loop.Run();
-  player.on_frame = {};
-  return status;
+  return loop.Run();
 }
 
 }  // namespace
@@ -82,6 +83,9 @@ int RunJukebox(const std::string& app_path) {
 int main(int argc, char** argv) {
   // Before the toolkit may change what it was started as.
   const std::filesystem::path folder = sonotik::ProgramFolder(argv[0], std::getenv("PATH"));
+  // The windows scale what they show; the toolkit's own scaling would only part their places from
+  // the monitors'.
+  qputenv("QT_ENABLE_HIGHDPI_SCALING", "0");
   QApplication application(argc, argv);
   QApplication::setQuitOnLastWindowClosed(false);
   // The player writes and reads numbers with a point.

@@ -201,6 +201,7 @@ bool MpvPlayer::RenderFile(const std::string& path) {
   const bool karaoke = KindOf(path) == "CDG";
   const std::string sound = karaoke ? FullPath(path.substr(0, path.size() - 3) + "mp3") : "";
 
+  new_file_ = true;
   SetFlag(mpv_.get(), "pause", true);
   SetText(mpv_.get(), "vf", karaoke ? kKaraokeFilter : "");
   open_ = Load(sound.empty() ? file : sound);
@@ -244,7 +245,7 @@ void MpvPlayer::Close() {
   open_ = running_ = ended_ = false;
   position_ = 0;
   length_.reset();
-  ClearPicture();
+  LeavePicture();
 }
 
 std::optional<double> MpvPlayer::Position() {
@@ -307,9 +308,16 @@ bool MpvPlayer::PlaceVideo(const VideoPlacement& placement) {
     return false;
   }
   if (placement.host == VideoHost::kNone || placement.width <= 0 || placement.height <= 0) {
+    LeavePicture();
+    return true;
+  }
+  const bool moved = placement.host != placement_.host;
+  placement_ = placement;
+  frames_->Resize(placement.width, placement.height);
+  if (std::exchange(new_file_, false)) {
     ClearPicture();
-  } else {
-    frames_->Resize(placement.width, placement.height);
+  } else if (moved && on_frame) {
+    on_frame();
   }
   return true;
 }
@@ -329,8 +337,12 @@ void MpvPlayer::ShowFrame() {
   if (frames_->Take(pixels_) && on_frame) on_frame();
 }
 
-void MpvPlayer::ClearPicture() {
+void MpvPlayer::LeavePicture() {
   frames_->Resize(0, 0);
+  if (placement_.host != VideoHost::kSecondMonitor) ClearPicture();
+}
+
+void MpvPlayer::ClearPicture() {
   if (pixels_.bytes.empty()) return;
   pixels_ = PixelSurface{};
   if (on_frame) on_frame();

@@ -52,9 +52,11 @@ class MpvPlayer final : public Player {
   std::optional<VideoSize> NativeSize() override;
   bool PlaceVideo(const VideoPlacement& placement) override;
 
-  // The picture shown last, in the size of its placement; no bytes while there is none.
+  // The picture shown last, in the size of its placement; no bytes while there is none. On the
+  // second monitor it stays behind its file's end, until another file has a picture.
   const PixelSurface& pixels() const { return pixels_; }
-  // On the interface thread, after pixels() has changed.
+  const VideoPlacement& placement() const { return placement_; }
+  // On the interface thread, after pixels() or the host has changed.
   std::function<void()> on_frame;
 
  private:
@@ -65,6 +67,8 @@ class MpvPlayer final : public Player {
   bool Load(const std::string& native);
   bool AtEnd();
   void ShowFrame();
+  // The file goes.
+  void LeavePicture();
   void ClearPicture();
 
   std::unique_ptr<mpv_handle, Terminate> mpv_;
@@ -72,6 +76,8 @@ class MpvPlayer final : public Player {
   // Outlived by closures that are still to run: they look here whether there is a player.
   std::shared_ptr<MpvPlayer*> self_;
   PixelSurface pixels_;
+  VideoPlacement placement_;
+  bool new_file_ = false;  // its picture has had no place yet
 
   bool open_ = false;
   bool running_ = false;  // as asked for: libmpv also pauses of itself, at the end

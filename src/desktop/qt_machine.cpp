@@ -6,7 +6,6 @@
 #include <QMessageBox>
 #include <QProcess>
 #include <QPushButton>
-#include <QScreen>
 #include <chrono>
 #include <ctime>
 
@@ -70,74 +69,6 @@ void QtEventLoop::Drive(Timers& timers) {
 
 int QtEventLoop::Run() { return left_ ? exit_status_ : QCoreApplication::exec(); }
 
-void QtDisplays::SetWindow(QWidget* window) {
-  window_ = window;
-  Apply();
-}
-
-int QtDisplays::MonitorCount() {
-  return std::max(1, static_cast<int>(QGuiApplication::screens().size()));
-}
-
-DisplayMode QtDisplays::CurrentMode() {
-  const QScreen* screen = QGuiApplication::primaryScreen();
-  if (screen == nullptr) return {};
-  const QSize pixels = screen->size() * screen->devicePixelRatio();
-  return {pixels.width(), pixels.height(), screen->depth(),
-          static_cast<int>(screen->refreshRate())};
-}
-
-void QtDisplays::SetFullScreen(bool full_screen) {
-  full_screen_ = full_screen;
-  Apply();
-}
-
-void QtDisplays::SetTopMost(bool top_most) {
-  top_most_ = top_most;
-  Apply();
-}
-
-void QtDisplays::SetMousePointerVisible(bool visible) {
-  pointer_ = visible;
-  Apply();
-}
-
-void QtDisplays::SetWindowSize(int width, int height) {
-  // The desktop puts its own frame around.
-  if (window_ != nullptr) window_->resize(width - kFrameWidth, height - kFrameHeight);
-}
-
-void QtDisplays::SetWindowPosition(int left, int top) {
-  if (window_ != nullptr) window_->move(left, top);
-}
-
-void QtDisplays::FitWindow(bool on_top) {
-  top_most_ = on_top;
-  if (const QScreen* screen = QGuiApplication::primaryScreen(); screen && window_ != nullptr) {
-    window_->setGeometry(screen->geometry());
-  }
-  Apply();
-}
-
-void QtDisplays::Apply() {
-  if (window_ == nullptr) return;
-  const bool shown = window_->isVisible();
-  if (window_->windowFlags().testFlag(Qt::WindowStaysOnTopHint) != top_most_) {
-    window_->setWindowFlag(Qt::WindowStaysOnTopHint, top_most_);
-  }
-  if (full_screen_) {
-    // Where no window manager runs, nobody else gives the window the screen's size.
-    if (const QScreen* screen = QGuiApplication::primaryScreen()) {
-      window_->setGeometry(screen->geometry());
-    }
-    window_->setWindowState(window_->windowState() | Qt::WindowFullScreen);
-  } else {
-    window_->setWindowState(window_->windowState() & ~Qt::WindowFullScreen);
-  }
-  window_->setCursor(pointer_ ? Qt::ArrowCursor : Qt::BlankCursor);
-  if (shown) window_->show();
-}
-
 void QtProcesses::StartProgram(const std::string& path, WindowState) {
   if (!FileExists(path)) return;
   QProcess::startDetached(QString::fromStdString(NativePath(path).string()), {});
@@ -150,6 +81,8 @@ void QtProcesses::StartCommand(const std::string& command, WindowState) {
 void QtMessageBox::Show(const std::string& text) {
   QMessageBox box;
   box.setWindowTitle(kProgramTitle);
+  // The main window may stand above all others.
+  box.setWindowFlag(Qt::WindowStaysOnTopHint);
   box.setText(Decode(text));
   // Words are enough; the style's own icon is made for small buttons.
   box.addButton(QMessageBox::Ok)->setIcon(QIcon());

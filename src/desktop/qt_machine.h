@@ -1,10 +1,9 @@
 // The machine's ports on the toolkit and the standard library: clock, random numbers, event loop,
-// displays, processes, messages.
+// processes, messages.
 #ifndef SONOTIK_DESKTOP_QT_MACHINE_H_
 #define SONOTIK_DESKTOP_QT_MACHINE_H_
 
 #include <QTimer>
-#include <QWidget>
 #include <random>
 
 #include "platform/machine.h"
@@ -42,33 +41,6 @@ class QtEventLoop : public EventLoop {
   QTimer wake_;
   bool left_ = false;
   int exit_status_ = 0;
-};
-
-class QtDisplays : public Displays {
- public:
-  // The window comes once there is one; until then what is asked of it is kept.
-  void SetWindow(QWidget* window);
-  int MonitorCount() override;
-  DisplayMode CurrentMode() override;
-  void SetFullScreen(bool full_screen) override;
-  void SetTopMost(bool top_most) override;
-  void SetMousePointerVisible(bool visible) override;
-  void SetWindowSize(int width, int height) override;
-  void SetWindowPosition(int left, int top) override;
-  void FitWindow(bool on_top) override;
-  // The window scales whatever a skin is drawn for to the monitor, and covers the desktop's bars:
-  // neither the mode nor the bars have to change.
-  void ChangeResolution(int, int) override {}
-  void RestoreResolution() override {}
-  void SetTaskbarVisible(bool) override {}
-
- private:
-  void Apply();
-
-  QWidget* window_ = nullptr;
-  bool full_screen_ = false;
-  bool top_most_ = false;
-  bool pointer_ = true;
 };
 
 class QtProcesses : public Processes {

@@ -2,17 +2,18 @@
 #ifndef SONOTIK_FORMS_FORM2_H_
 #define SONOTIK_FORMS_FORM2_H_
 
+#include <array>
 #include <string>
 
 #include "forms/design.h"
+#include "platform/displays.h"
 
 namespace sonotik {
 
-// The window's style as its check boxes hold it.
-struct WindowStyle {
-  bool title_bar = true;
-  bool sizable = true;
-  bool top_most = false;
+// A check box that holds one flag of the main window's style.
+struct StyleCheck {
+  bool value = false;
+  bool enabled = true;
 };
 
 struct Form2 {
@@ -26,7 +27,7 @@ struct Form2 {
   Label forum_title;
   Label forum_album;
   std::string forum_file;  // the last one that was written
-  WindowStyle style;
+  std::array<StyleCheck, kStyleFlags> style;  // by StyleFlag
 };
 
 }  // namespace sonotik

@@ -18,7 +18,8 @@ void MediaEngine::OpenMedia(const std::string& path, bool stretch) {
   // As loud as recorded for an instant; the caller sets the true volume next, and that is meant.
   player_.SetVolume(0);
   player_.SetBalance(0);
-  PlaceOnHost(stretch);
+  stretch_ = stretch;
+  PlaceOnHost();
   player_.SetRate(1.0);
   rate_ = player_.Rate().value_or(1.0);
   // Both from 0, or a file that can't be played would never seem to end.
@@ -28,7 +29,7 @@ void MediaEngine::OpenMedia(const std::string& path, bool stretch) {
   MediaPlay();
 }
 
-void MediaEngine::PlaceOnHost(bool stretch) {
+void MediaEngine::PlaceOnHost() {
   const bool second = settings_.use_second_monitor && second_host_ != nullptr;
   const Rect& inner = (second ? *second_host_ : main_host_).place();
   VideoPlacement placement;
@@ -36,7 +37,8 @@ void MediaEngine::PlaceOnHost(bool stretch) {
   placement.width = static_cast<int>(inner.width);
   placement.height = static_cast<int>(inner.height);
   const auto native = player_.NativeSize();
-  if (second && !stretch && native && native->width > 0) {
+  // The box of the main window is filled whatever the ratio; that is meant.
+  if (second && !stretch_ && native && native->width > 0) {
     // The whole width, the height by the picture's own ratio, centred from top to bottom.
     const double ratio = static_cast<double>(native->height) / native->width;
     placement.height = static_cast<int>(RoundHalfEven(placement.width * ratio));
@@ -98,12 +100,7 @@ double MediaEngine::MediaPosition() {
 }
 
 void MediaEngine::FitVideoWindow() {
-  if (!open_) return;
-  VideoPlacement placement;
-  placement.host = VideoHost::kMainWindow;
-  placement.width = static_cast<int>(main_host_.place().width);
-  placement.height = static_cast<int>(main_host_.place().height);
-  player_.PlaceVideo(placement);
+  if (open_) PlaceOnHost();
 }
 
 }  // namespace sonotik

@@ -38,13 +38,14 @@ class MediaEngine {
   double MediaPosition();
   // Paused and stopped are alike: false.
   bool MediaIsPlaying() const { return is_playing_; }
-  // After the box of the main window has changed its size.
+  // After a host has changed its size, or the setting the host: the picture moves, the sound goes
+  // on.
   void FitVideoWindow();
 
   const std::string& current_file() const { return current_file_; }
 
  private:
-  void PlaceOnHost(bool stretch);
+  void PlaceOnHost();
 
   Player& player_;
   EventLoop& events_;
@@ -53,6 +54,7 @@ class MediaEngine {
   const Control* second_host_ = nullptr;
   bool open_ = false;
   bool is_playing_ = false;
+  bool stretch_ = false;
   std::string current_file_;
   double length_ = 0;  // as the player gives it
   double rate_ = 1;

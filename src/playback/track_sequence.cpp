@@ -5,6 +5,7 @@
 #include "files/files.h"
 #include "files/paths.h"
 #include "files/runtime_failure.h"
+#include "playback/video_window.h"
 #include "text/dates.h"
 #include "text/text.h"
 
@@ -100,15 +101,14 @@ void TrackSequence::ShowNames() {
 }
 
 void TrackSequence::BranchOnKind(const std::string& path) {
-  const std::string kind = KindOf(path);
   NowPlayingScreen& screen = form1_.now_playing;
-  // An M4A isn't in the list of audio kinds and takes the other way.
-  if (kind == "MP3" || kind == "WMA" || kind == "WAV") {
+  if (!HasPicture(path)) {
     if (settings_.use_visualisations) {
       events_.PumpEvents();
       hooks.start_visualisation();
     }
     if (settings_.use_second_monitor && settings_.second_monitor_videos_only) {
+      // With "All" it keeps the last picture that it had; that is meant.
       hooks.show_second_monitor(false);
     }
     screen.video.SetVisible(false);

@@ -43,6 +43,7 @@ Assembly::Assembly(std::string path, Machine& ports)
       top20(settings, history.most_played(), covers, play_options, form1.top20),
       facts(app_path, log),
       engine(ports.player, ports.events, settings, form1.now_playing.video),
+      video_window(ports.displays, settings, engine, form1, form3),
       queue(app_path, ports.random, tags, fields),
       queue_view(settings, queue, covers, tags, fields, form1),
       tracks(ports.events, settings, playback, engine, covers, history, tags, fields, state_timer,
@@ -55,6 +56,14 @@ Assembly::Assembly(std::string path, Machine& ports)
       attract(settings, ports.random, animation, form1),
       calendar(app_path, settings) {
   tracks.hooks.start_song_facts = [this] { fact_display.StartSongFacts(); };
+  tracks.hooks.show_second_monitor = [this](bool visible) { video_window.Show(visible); };
+  selection.announce = [this](bool play_next) {
+    state.ticker_seconds = 0;
+    video_window.Announce(fields, play_next);
+  };
+  fact_display.show_on_second_monitor = [this](const std::string* fact) {
+    video_window.ShowFact(fact);
+  };
   play_options.is_queued = [this](const std::string& chosen) { return queue.Contains(chosen); };
   selection.hand_to_master = [this](const std::string& track) {
     if (!network.terminal()) return false;
@@ -64,7 +73,10 @@ Assembly::Assembly(std::string path, Machine& ports)
   search.on_record = [this] { state.idle_seconds = 0; };
   play_options.queue_count = [this] { return queue.count(); };
   skins.screens.hooks.set_track_rows = [this](int rows) { track_list.SetRowsPerPage(rows); };
-  skins.screens.hooks.fit_video_window = [this] { engine.FitVideoWindow(); };
+  skins.screens.hooks.fit_video_window = [this] {
+    if (settings.use_second_monitor) video_window.SetDisplay();
+    engine.FitVideoWindow();
+  };
   for (ucAniGIF* gif :
        {&form1.now_playing_indicator, &form1.now_playing.rating, &form1.decades.chart_picture}) {
     gif->SetTimers(machine.timers);

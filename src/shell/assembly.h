@@ -27,6 +27,7 @@
 #include "files/milestone_log.h"
 #include "forms/Form1.h"
 #include "forms/Form2.h"
+#include "forms/Form3.h"
 #include "forms/Splash.h"
 #include "peripherals/network.h"
 #include "peripherals/sign_settings.h"
@@ -41,6 +42,7 @@
 #include "playback/rating.h"
 #include "playback/selection.h"
 #include "playback/track_sequence.h"
+#include "playback/video_window.h"
 #include "shell/boundary.h"
 #include "shell/calendar.h"
 #include "skins/cover_animation.h"
@@ -79,6 +81,7 @@ struct Assembly {
   Splash splash;
   Form1 form1;
   Form2 form2;
+  Form3 form3;
 
   MilestoneLog log;
   SettingsFile settings_file;
@@ -114,6 +117,7 @@ struct Assembly {
 
   PlaybackState playback;
   MediaEngine engine;
+  VideoWindow video_window;
   Queue queue;
   QueueView queue_view;
   TrackSequence tracks;

@@ -51,6 +51,10 @@ class Jukebox {
     menu.hooks.show_genres = [this] { house.genres.show_genres(); };
     start_up.hooks.genre_scroll_show = [this] { house.genres.genre_scroll_show(); };
     start_up.hooks.clear_search = [this] { house.search.suggestions().Clear(); };
+    start_up.hooks.read_window_style = [this] { effects.displays.ReadWindowStyle(); };
+    start_up.hooks.apply_window_style = [this] { effects.displays.ApplyWindowStyle(); };
+    ticks.hooks.ticker_visible = [this] { return house.video_window.ticker_visible(); };
+    ticks.hooks.hide_ticker = [this] { house.video_window.HideTicker(); };
     ticks.hooks.leave_program = [this] { shutdown.TimedExit(); };
   }
 

@@ -104,6 +104,7 @@ struct Maker {
 
   Frames Appearance() {
     OptionsScreen& screen = house.form1.options;
+    const auto move_second = [effects = &effects] { effects->displays.MoveSecondMonitor(); };
     OptionRow names = {.caption = "Show Album/Arist Names",
                        .kind = K::kCheck,
                        .value = &s.show_album_artist_names};
@@ -126,7 +127,7 @@ struct Maker {
               Check("Hide Mouse", s.hide_mouse),
               names,
               Check("Full Screen Mode...", s.full_screen,
-                    [skins = &house.skins] { skins->screens.SwitchFullScreen(); })}},
+                    [effects = &effects] { effects->displays.SwitchFullScreen(); })}},
             {"Album Options",
              {Check("Hide QUICKJUMP Covers", s.hide_quickjump_covers),
               Check("Show New On Recent Albums", s.show_new_on_recent_albums)}},
@@ -143,12 +144,13 @@ struct Maker {
               Check("Display Track Numbers", s.display_track_numbers),
               Check("Show Track First Compilations", s.show_track_first)}},
             {"Video\\Visualisations Options",
-             {Check("Use second monitor", s.use_second_monitor),
-              List("Second Monitor ID:", s.second_monitor, lists.monitors),
+             {Check("Use second monitor", s.use_second_monitor, move_second),
+              List("Second Monitor ID:", s.second_monitor, lists.monitors, move_second),
               {.caption = "Use Second Monitor For:",
                .kind = K::kList,
                .value = &s.second_monitor_videos_only,
-               .items = &state.monitor_uses},
+               .items = &state.monitor_uses,
+               .changed = move_second},
               Check("Use WINAMP visualizations for AUDIO", s.use_visualisations)}}};
   }
 

@@ -7,7 +7,7 @@
 
 namespace sonotik {
 
-SettingsEffects::SettingsEffects(Assembly& house) : house_(house) {
+SettingsEffects::SettingsEffects(Assembly& house) : displays(house), house_(house) {
   house_.settings_file.on_applied = [this](int row, bool changed) { Apply(row, changed); };
 }
 
@@ -43,6 +43,13 @@ void SettingsEffects::Apply(int row, bool changed) {
       house_.settings.main_volume =
           std::clamp(house_.settings.main_volume, kLeastVolume, kMostVolume);
       house_.form1.volume.SetValue(house_.settings.main_volume);
+      break;
+    case setting_row::kFullScreen:
+      if (changed) displays.SwitchFullScreen();
+      break;
+    case setting_row::kUseSecondMonitor:
+    case setting_row::kSecondMonitor:
+      if (changed) displays.MoveSecondMonitor();
       break;
     case setting_row::kHideMouse:
       house_.machine.displays.SetMousePointerVisible(!house_.settings.hide_mouse);

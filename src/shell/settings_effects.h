@@ -6,12 +6,16 @@
 #include <string>
 
 #include "shell/assembly.h"
+#include "shell/display_effects.h"
 
 namespace sonotik {
 
 class SettingsEffects {
  public:
   explicit SettingsEffects(Assembly& house);
+
+  // Of the monitors.
+  DisplayEffects displays;
 
   // Reads the settings, their effects included.
   void LoadConfig();

@@ -2,6 +2,8 @@
 
 #include "config/version.h"
 #include "files/file_list.h"
+#include "peripherals/clsScreens.h"
+#include "peripherals/clsStyle.h"
 #include "playback/genre_lists.h"
 
 namespace sonotik {
@@ -30,7 +32,7 @@ StartUpResult StartUp::Form_Load() {
                               [&](const std::string& text) { house_.credits.Receive(text); });
   });
 
-  house_.lists.FillFixed(house_.machine.displays.MonitorCount());
+  house_.lists.FillFixed(clsScreens(house_.machine.displays).Count());
   Run("sign lists", hooks.set_up_sign_lists);
   Run("working lists", hooks.set_up_working_lists);
   Run("load_facts", [&] { house_.facts.load_facts(); });
@@ -72,7 +74,10 @@ StartUpResult StartUp::Form_Load() {
   Run("startup.mp3", [&] { PlayStartSound(); });
   hooks.show_splash(false);
   if (house_.state.shutting_down) return StartUpResult::kLeft;
-  if (house_.form2.style.top_most) house_.machine.displays.SetTopMost(true);
+  constexpr StyleFlag kOnTop = StyleFlag::TopMost;
+  if (house_.form2.style[static_cast<size_t>(kOnTop)].value) {
+    clsStyle(house_.machine.displays).Set(kOnTop, true);
+  }
   // The start sound has switched the first one on already, so it may have ticked before.
   house_.state_timer.SetEnabled(true);
   house_.timer1.SetEnabled(true);
@@ -154,7 +159,6 @@ void StartUp::LoadDataFiles() {
   });
   Load("load_history_chart", "History CHART Load Complete",
        [&] { hooks.load_history_chart(house_.decades.chart_path()); });
-  if (house_.settings.full_screen) house_.machine.displays.SetFullScreen(true);
   Run("window style", hooks.apply_window_style);
   Load("random.dat", "Random PLAY Load Complete",
        [&] { LoadGenreLists(house_.app_path, house_.lists); });

@@ -45,6 +45,7 @@ void ScreenSkin::ReadFiles(const std::string& folder) {
   reader.on_number = [this](std::string_view target, FieldKind kind, double number) {
     TakeNumber(target, kind, number);
   };
+  screen_width_ = screen_height_ = 0;
   reader.Read(SkinFile());
   events_.PumpEvents();
   for (const LayoutFile& file : LayoutFiles()) ReadLayoutFile(reader, file);
@@ -165,17 +166,15 @@ void ScreenSkin::ApplyResolution() {
 }
 
 void ScreenSkin::SwitchFullScreen() {
-  displays_.SetFullScreen(settings_.full_screen);
   if (settings_.full_screen) {
     mode_changed_ = true;
+    // A skin that doesn't tell its size leaves the mode.
     if (screen_width_ > 0) displays_.ChangeResolution(screen_width_, screen_height_);
-    displays_.FitWindow(true);
-    displays_.SetTaskbarVisible(false);
   } else {
     displays_.RestoreResolution();
-    displays_.FitWindow(false);
-    displays_.SetTaskbarVisible(true);
   }
+  displays_.FitWindow(settings_.full_screen);
+  displays_.SetTaskbarVisible(!settings_.full_screen);
 }
 
 void ScreenSkin::LoadFixedPictures(const std::string& folder) {

@@ -68,12 +68,16 @@ void ProgressBar::Paint(Canvas& canvas) const {
   canvas.FillRect({0, 0, place().width * share, place().height}, fill_);
 }
 
-void VideoBox::SetPixels(const PixelSurface* pixels) { Change(pixels_, pixels); }
+void VideoBox::SetPixels(const PixelSurface* pixels, std::optional<Rect> part) {
+  Change(pixels_, pixels);
+  Change(part_, part);
+}
 
 void VideoBox::Paint(Canvas& canvas) const {
   const Rect inner{0, 0, place().width, place().height};
   canvas.FillRect(inner, Rgb(0, 0, 0));
-  if (pixels_ != nullptr && !pixels_->bytes.empty()) canvas.DrawPixels(*pixels_, inner);
+  if (pixels_ != nullptr && !pixels_->bytes.empty())
+    canvas.DrawPixels(*pixels_, part_.value_or(inner));
 }
 
 }  // namespace sonotik

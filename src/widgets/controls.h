@@ -79,13 +79,15 @@ class ProgressBar : public Control {
 // Where a video runs: black, and on it whatever the player has rendered last.
 class VideoBox : public Control {
  public:
-  // Owned by the player; nullptr for none. Whoever renders into it calls Invalidate.
-  void SetPixels(const PixelSurface* pixels);
+  // Owned by the player; nullptr for none. Whoever renders into it calls Invalidate. They fill the
+  // box, or the part of it that is given; that may be larger than the box, which cuts it then.
+  void SetPixels(const PixelSurface* pixels, std::optional<Rect> part = std::nullopt);
   bool opaque() const override { return true; }
   void Paint(Canvas& canvas) const override;
 
  private:
   const PixelSurface* pixels_ = nullptr;
+  std::optional<Rect> part_;
 };
 
 }  // namespace sonotik

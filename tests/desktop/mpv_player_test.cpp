@@ -247,6 +247,42 @@ TEST_F(MpvPlayerTest, RendersThePictureAtThePlacedSize) {
   EXPECT_TRUE(ShowsPicture(64, 48));
 }
 
+TEST_F(MpvPlayerTest, APictureMovesToAnotherHostAndTheSoundGoesOn) {
+  ASSERT_TRUE(player_->RenderFile("clip.mpg"));
+  ASSERT_TRUE(player_->PlaceVideo({VideoHost::kMainWindow, 0, 0, 100, 30}));
+  player_->Run();
+  ASSERT_TRUE(ShowsPicture(100, 30));
+  double place = *player_->Position();
+  for (const auto& [host, width] :
+       {std::pair{VideoHost::kSecondMonitor, 300}, {VideoHost::kMainWindow, 100}}) {
+    VideoHost told = VideoHost::kNone;
+    player_->on_frame = [&] { told = player_->placement().host; };
+    ASSERT_TRUE(player_->PlaceVideo({host, 0, -5, width, 40}));
+    EXPECT_EQ(told, host) << "the host before must let go at once";
+    EXPECT_FALSE(player_->pixels().bytes.empty()) << "never black in between";
+    EXPECT_TRUE(ShowsPicture(width, 40));
+    EXPECT_GE(*player_->Position(), place);
+    place = *player_->Position();
+    player_->on_frame = {};
+  }
+  EXPECT_TRUE(PlayToEnd());
+}
+
+TEST_F(MpvPlayerTest, TheSecondMonitorKeepsItsLastPictureUntilAnotherFileHasOne) {
+  const VideoPlacement room{VideoHost::kSecondMonitor, 0, 0, 64, 48};
+  ASSERT_TRUE(player_->RenderFile("clip.mpg"));
+  ASSERT_TRUE(player_->PlaceVideo(room));
+  ASSERT_TRUE(ShowsPicture(64, 48));
+  ASSERT_TRUE(player_->RenderFile("tone.mp3"));
+  EXPECT_FALSE(player_->PlaceVideo(room));
+  EXPECT_FALSE(player_->pixels().bytes.empty());
+  // The new one's first picture may be long in coming, and the old one is not its own.
+  Write("late.cdg", Cdg(150));
+  ASSERT_TRUE(player_->RenderFile("late.cdg"));
+  ASSERT_TRUE(player_->PlaceVideo(room));
+  EXPECT_TRUE(player_->pixels().bytes.empty());
+}
+
 TEST_F(MpvPlayerTest, KaraokePlaysItsSoundFromTheStartWithThePicture) {
   Write("Duo: A, B.cdg", Cdg(150));
   Write("duo: a, b.MP3", Read("tone.mp3"));

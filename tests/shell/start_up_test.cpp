@@ -103,7 +103,7 @@ TEST_F(StartUpTest, DamagedDataFilesCostOnlyWhatTheyHold) {
 }
 
 TEST_F(StartUpTest, FillsTheListsThatOthersPickFrom) {
-  machine.displays.monitors = 3;
+  machine.displays.monitors.resize(3);
   folder.Write("genres/Rock.cvr", "");
   folder.Write("genres/blues.CVR", "");
   Start();

@@ -145,22 +145,29 @@ class TestKeys : public KeyState {
 
 class TestDisplays : public Displays {
  public:
-  int monitors = 1;
-  bool full_screen = false;
-  bool top_most = false;
+  std::vector<Monitor> monitors{{.whole = {0, 0, 1280, 800}, .primary = true}};
+  WindowStyle style{};
+  MonitorArea second_area;
+  bool second_shown = false;
   bool pointer = true;
+  bool full_screen = false;
   std::vector<std::string> calls;
-  int MonitorCount() override { return monitors; }
+  std::vector<Monitor> Monitors() override { return monitors; }
   DisplayMode CurrentMode() override { return {1280, 800, 24, 60}; }
-  void SetFullScreen(bool on) override { full_screen = on; }
-  void SetTopMost(bool on) override { top_most = on; }
+  WindowStyle Style() override { return style; }
+  void SetStyle(const WindowStyle& flags) override { style = flags; }
   void SetMousePointerVisible(bool visible) override { pointer = visible; }
   void SetWindowSize(int width, int height) override { Note("SetWindowSize", width, height); }
   void SetWindowPosition(int left, int top) override { Note("SetWindowPosition", left, top); }
   void FitWindow(bool on_top) override { Note("FitWindow", on_top, 0); }
   void ChangeResolution(int width, int height) override { Note("ChangeResolution", width, height); }
   void RestoreResolution() override { Note("RestoreResolution", 0, 0); }
-  void SetTaskbarVisible(bool visible) override { Note("SetTaskbarVisible", visible, 0); }
+  void SetTaskbarVisible(bool visible) override {
+    full_screen = !visible;
+    Note("SetTaskbarVisible", visible, 0);
+  }
+  void PlaceSecondWindow(const MonitorArea& area) override { second_area = area; }
+  void ShowSecondWindow(bool visible) override { second_shown = visible; }
 
  private:
   void Note(const std::string& call, int a, int b) {

@@ -3,6 +3,7 @@
 #define SONOTIK_TOOLS_SKIN_CHECK_PORTS_H_
 
 #include <string>
+#include <vector>
 
 #include "platform/displays.h"
 #include "platform/event_loop.h"
@@ -20,17 +21,19 @@ class NoEvents : public EventLoop {
 
 class NoDisplays : public Displays {
  public:
-  int MonitorCount() override { return 1; }
+  std::vector<Monitor> Monitors() override { return {}; }
   DisplayMode CurrentMode() override { return {}; }
-  void SetFullScreen(bool) override {}
-  void SetTopMost(bool) override {}
   void SetMousePointerVisible(bool) override {}
+  WindowStyle Style() override { return {}; }
+  void SetStyle(const WindowStyle&) override {}
   void SetWindowSize(int, int) override {}
   void SetWindowPosition(int, int) override {}
   void FitWindow(bool) override {}
   void ChangeResolution(int, int) override {}
   void RestoreResolution() override {}
   void SetTaskbarVisible(bool) override {}
+  void PlaceSecondWindow(const MonitorArea&) override {}
+  void ShowSecondWindow(bool) override {}
 };
 
 class NoMessages : public MessageBox {
