@@ -24,13 +24,15 @@ until_true() {
   done
 }
 
-# As large as the larger skin.
-Xvfb -displayfd 4 -screen 0 1920x1080x24 -noreset -nolisten tcp 4>"$work/display" 2>/dev/null &
+# The cabinet's monitor, as large as the larger skin, and one for the room beside it.
+Xvfb -displayfd 4 -screen 0 3200x1080x24 -noreset -nolisten tcp 4>"$work/display" 2>/dev/null &
 screen=$!
 jukebox=$screen
 until_true 20 test -s "$work/display" || fail "no virtual display"
 DISPLAY=:$(cat "$work/display")
 export DISPLAY
+xrandr --setmonitor '*cabinet' 1920/500x1080/280+0+0 screen >/dev/null
+xrandr --setmonitor room 1280/280x720/160+1920+0 none
 
 start() {
   "$demo/sonotik" >>"$work/jukebox.log" 2>&1 &
