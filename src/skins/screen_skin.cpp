@@ -153,6 +153,7 @@ void ScreenSkin::ApplyResolution() {
   if (settings_.full_screen) {
     displays_.SetWindowSize(screen_width_, screen_height_);
     mode_changed_ = true;
+    // A mode that is refused leaves the window sized as asked; that is meant.
     displays_.ChangeResolution(screen_width_, screen_height_);
     // Not 0: so it was always done.
     displays_.SetWindowPosition(1, 1);

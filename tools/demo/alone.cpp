@@ -49,6 +49,9 @@ const std::vector<Facts>& SongFacts() {
       {"Jonas Thunderpipe",
        "Thunder & Toast",
        {"The thunder is real, the toast was eaten.", "A crowd of forty claps in the last verse."}},
+      {"Kaleida Prism",
+       "Turning Glass",
+       {"The glass of this film was turned by hand, one degree a frame."}},
   };
   return kSongs;
 }
