@@ -1,20 +1,24 @@
-// sonotik-config: builds the jukebox's catalogue from the command line.
+// sonotik-config: builds the jukebox's catalogue, from the command line or, as a jukebox starts it,
+// from a window.
 #include <unistd.h>
 
 #include <atomic>
 #include <chrono>
 #include <csignal>
+#include <cstdlib>
 #include <ctime>
 #include <exception>
 #include <iostream>
 #include <string>
 #include <vector>
 
+#include "files/program_folder.h"
 #include "platform/clock.h"
 #include "tools/config/catalogue_builder.h"
 #include "tools/config/command_line.h"
 #include "tools/config/names.h"
 #include "tools/config/report.h"
+#include "tools/config/window.h"
 
 namespace {
 
@@ -66,6 +70,10 @@ int Run(sonotik::CommandLine& line) {
 }  // namespace
 
 int main(int argc, char** argv) {
+  // The name by which a jukebox calls it; the jukebox is the folder where it stands.
+  if (argc == 1 && std::filesystem::path(argv[0]).filename() == "Config 3.exe") {
+    return sonotik::RunWindow(argc, argv, sonotik::ProgramFolder(argv[0], std::getenv("PATH")));
+  }
   sonotik::CommandLine line =
       sonotik::ParseCommandLine(std::vector<std::string>(argv + 1, argv + argc));
   if (line.help) {
