@@ -8,7 +8,8 @@ namespace {
 constexpr float kMargin = 14;
 constexpr float kGap = 6;
 constexpr float kColumnGap = 14;
-constexpr int kColumns = 3;
+// A narrower panel has two columns.
+constexpr float kThreeColumns = 840;
 constexpr float kHeading = 32;
 // What the sizes of the fields are meant for.
 constexpr float kDesignHeight = 580;
@@ -53,15 +54,16 @@ void OptionPage::LayOut(float foot) {
   const float scale = this->scale();
   const Rect whole = panel->place();
   const float bottom = (whole.height - foot) / scale - kGap;
+  const int columns = whole.width / scale < kThreeColumns ? 2 : 3;
   const float width =
-      (whole.width / scale - 2 * kMargin - kColumnGap * static_cast<float>(kColumns - 1)) /
-      static_cast<float>(kColumns);
+      (whole.width / scale - 2 * kMargin - kColumnGap * static_cast<float>(columns - 1)) /
+      static_cast<float>(columns);
   float top = kGap;
   int column = 0;
   pages_ = 1;
   const auto next_column = [&] {
     top = kGap;
-    if (++column < kColumns) return;
+    if (++column < columns) return;
     column = 0;
     ++pages_;
   };

@@ -40,11 +40,11 @@ OptionsScreen::OptionsScreen(Panel& screen) : panel(screen), picker(pages), keyb
   LayOut();
 }
 
-OptionPage* OptionsScreen::front() {
+size_t OptionsScreen::front() const {
   for (size_t i = kOptionSections; i-- > 0;) {
-    if (section_panels[i].visible()) return &settings[i];
+    if (section_panels[i].visible()) return i;
   }
-  return nullptr;
+  return kOptionSections;
 }
 
 void OptionsScreen::LayOut() {
@@ -62,11 +62,17 @@ void OptionsScreen::LayOut() {
   page_back.SetPlace({middle - width * 1.5F, top, width, height});
   page_caption.SetPlace({middle - width / 2, top, width, height});
   page_forward.SetPlace({middle + width / 2, top, width, height});
-  ShowPageButtons();
+  ShowFront();
 }
 
-void OptionsScreen::ShowPageButtons() {
-  const OptionPage* page = front();
+void OptionsScreen::ShowFront() {
+  const size_t front = this->front();
+  for (size_t i = 0; i < sections.size(); ++i) {
+    Font font = sections[i].font();
+    font.bold = i == front;
+    sections[i].SetFont(font);
+  }
+  const OptionPage* page = front < kOptionSections ? &settings[front] : nullptr;
   const bool several = page != nullptr && page->pages() > 1;
   page_back.SetVisible(several);
   page_forward.SetVisible(several);

@@ -37,12 +37,12 @@ struct OptionsScreen {
   OptionKeyboard keyboard;
   OptionCalendar calendar;
 
-  // The section in front: of several that show it is the last one; nullptr for none.
-  OptionPage* front();
+  // The section in front: of several that show it is the last one; kOptionSections for none.
+  size_t front() const;
   // All of it anew by the sizes of the panels.
   void LayOut();
-  // Which of the page buttons the section in front needs.
-  void ShowPageButtons();
+  // Marks the section in front, with the page buttons that it needs.
+  void ShowFront();
 };
 
 }  // namespace sonotik

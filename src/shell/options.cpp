@@ -120,8 +120,11 @@ void Options::Wire() {
   screen_.save_settings.on_click =
       house_.boundary.Guarded("Save Settings", [this] { SaveSettings(house_); });
   const auto turn = [this](int by) {
-    if (OptionPage* page = screen_.front()) page->ShowPage(page->page() + by);
-    screen_.ShowPageButtons();
+    const size_t front = screen_.front();
+    if (front == kOptionSections) return;
+    OptionPage& page = screen_.settings[front];
+    page.ShowPage(page.page() + by);
+    screen_.ShowFront();
   };
   screen_.page_back.on_click = [turn] { turn(-1); };
   screen_.page_forward.on_click = [turn] { turn(1); };
@@ -188,7 +191,7 @@ void Options::Refresh() {
   for (const auto& item : shown_) Show(*item);
   // A Terminal plays nothing, so it can't choose by itself.
   FieldOf(&house_.settings.enable_random_play).SetEnabled(!state_.terminal);
-  screen_.ShowPageButtons();
+  screen_.ShowFront();
 }
 
 void Options::Show(const Shown& item) const {
@@ -304,9 +307,12 @@ void Options::Type(const Shown& item) {
 
 void Options::OpenSection(size_t section) {
   entry_.Close();
+  OptionPage& settings = screen_.settings[section];
+  // Pressed once more, a section turns its pages.
+  const int page = screen_.front() == section ? (settings.page() + 1) % settings.pages() : 0;
   for (Panel& panel : screen_.section_panels) panel.SetVisible(false);
   screen_.section_panels[section].SetVisible(true);
-  screen_.settings[section].ShowPage(0);
+  settings.ShowPage(page);
   // Takes back what wasn't saved, in all sections, and lists every skin once more; that is meant.
   if (section == kSignSection) effects_.LoadConfig();
   Refresh();

@@ -290,7 +290,7 @@ struct Maker {
                       {Check("Enable Credit mode", s.enable_credit_mode,
                              [effects = &effects] { effects->SwitchCreditMode(); })}}};
     for (size_t kind = 0; kind < 3; ++kind) {
-      OptionFrame frame{kKinds[kind], {}, kind > 0};
+      OptionFrame frame{kKinds[kind], {}, kind == 1};
       for (size_t way = 0; way < 3; ++way) {
         frame.rows.push_back(
             List(kWays[way], house.credits.price_selection(way, kind), lists.prices));

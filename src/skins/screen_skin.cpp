@@ -83,6 +83,8 @@ void ScreenSkin::FinishFile(const LayoutReader& reader, std::string_view file) {
     const std::string picture = reader.PictureAt("images\\genrebar.bmp");
     if (!picture.empty()) form_.genre_bar.SetPicture(picture);
     hooks.genre_scroll_show();
+  } else if (file == "options.ini") {
+    form_.options.LayOut();
   } else if (file == "queue.ini") {
     for (QueueRow& row : form_.queue.rows) CoverRow(row);
   } else if (file == "jumptoletter2.ini") {

@@ -4,8 +4,10 @@
 #include <set>
 
 #include "forms/Form1.h"
+#include "shell/jukebox.h"
 #include "skins/cover_layout.h"
 #include "support/temp_folder.h"
+#include "support/test_machine.h"
 #include "tools/skins/screens.h"
 
 namespace sonotik::skins {
@@ -49,6 +51,58 @@ TEST_P(DeliveredSkins, KeepTheCoversOfAllPagesInTheirAreaAndApart) {
   }
   EXPECT_EQ(counts.size(), 3U);
   EXPECT_TRUE(counts.contains(12));
+}
+
+// All settings of all pages, each large enough for a finger.
+TEST_P(DeliveredSkins, KeepEverySettingOnItsPageApartAndAtLeast48High) {
+  TestMachine machine;
+  folder.Write("Records.rec", "");
+  std::filesystem::create_directory(folder.native() / "skins");
+  std::filesystem::rename(folder.native() / GetParam()->name,
+                          folder.native() / "skins" / GetParam()->name);
+  Settings settings;
+  settings.current_skin = GetParam()->name;
+  OptionLists lists;
+  const std::string path = folder.path();
+  SettingsFile(path, settings, lists, machine.messages).SaveConfig();
+  Jukebox jukebox(path, machine.machine);
+  ASSERT_EQ(jukebox.Start(), StartUpResult::kRunning);
+  OptionsScreen& screen = jukebox.house.form1.options;
+  for (size_t section = 0; section < kOptionSections; ++section) {
+    const Panel& panel = screen.section_panels[section];
+    const Rect inside{0, 0, panel.place().width, panel.place().height};
+    OptionPage& page = screen.settings[section];
+    size_t fields = 0;
+    for (int number = 0; number < page.pages(); ++number) {
+      page.ShowPage(number);
+      std::vector<const Control*> shown;
+      for (const Control* child : panel.children()) {
+        if (child->visible() && dynamic_cast<const Slider*>(child) == nullptr) {
+          shown.push_back(child);
+        }
+      }
+      for (size_t i = 0; i < shown.size(); ++i) {
+        const Rect place = shown[i]->place();
+        EXPECT_TRUE(inside.Contains(place)) << section << " " << i;
+        const auto* field = dynamic_cast<const OptionField*>(shown[i]);
+        if (field != nullptr) {
+          EXPECT_GE(place.height, 48) << field->caption();
+          ++fields;
+        }
+        for (size_t k = 0; k < i; ++k) {
+          EXPECT_TRUE(place.Intersected(shown[k]->place()).empty()) << section << " " << i;
+        }
+        EXPECT_TRUE(page.pages() == 1 || place.bottom() <= screen.page_forward.place().top);
+      }
+    }
+    EXPECT_GT(fields, 5U) << section;
+  }
+  const OptionPicker& picker = screen.picker;
+  EXPECT_GE(picker.items[0].place().height, 48);
+  EXPECT_GE(picker.done.place().height, 48);
+  EXPECT_GE(screen.keyboard.keys[0].place().height, 48);
+  EXPECT_GE(screen.page_forward.place().height, 48);
+  EXPECT_GE(screen.calendar.days[0].place().height, 48);
 }
 
 INSTANTIATE_TEST_SUITE_P(All, DeliveredSkins, testing::Values(&Neon(), &Classic()),
