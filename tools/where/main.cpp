@@ -63,7 +63,6 @@ void SayAll(const Form1& form) {
   for (size_t i = 0; i < form.options.sections.size(); ++i) {
     Say("section" + std::to_string(i), form.options.sections[i]);
   }
-  Say("options_next", form.options.page_forward);
   for (size_t i = 0; i < form.pin.keys.size(); ++i) {
     Say("pin" + std::to_string(i), form.pin.keys[i]);
   }
