@@ -13,6 +13,7 @@
 #include "desktop/mpv_player.h"
 #include "desktop/qt_displays.h"
 #include "desktop/qt_machine.h"
+#include "desktop/serial_line.h"
 #include "desktop/signals.h"
 #include "desktop/video_hosts.h"
 #include "desktop/x11_keys.h"
@@ -41,11 +42,12 @@ int RunJukebox(const std::string& app_path) {
   QtMessageBox messages;
   CoinBox coins;
   LogindSession session(QDBusConnection::systemBus());
+  SerialLine sign_port(app_path);
   MpvPlayer player([](std::function<void()> call) {
     QMetaObject::invokeMethod(qApp, std::move(call), Qt::QueuedConnection);
   });
-  Machine machine{clock,    random,    loop,     timers, keys,   player,
-                  displays, processes, messages, coins,  session};
+  Machine machine{clock,    random,    loop,     timers, keys,    player,
+                  displays, processes, messages, coins,  session, sign_port};
   PictureCache pictures;
   Jukebox jukebox(app_path, machine);
   Assembly& house = jukebox.house;

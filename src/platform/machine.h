@@ -12,6 +12,7 @@
 #include "platform/player.h"
 #include "platform/processes.h"
 #include "platform/random_source.h"
+#include "platform/serial_port.h"
 #include "platform/session.h"
 #include "platform/timers.h"
 
@@ -29,6 +30,7 @@ struct Machine {
   MessageBox& messages;
   CoinIntake& coins;
   Session& session;
+  SerialPort& sign_port;
 };
 
 }  // namespace sonotik

@@ -36,13 +36,13 @@ void FactDisplay::TickSongFacts() {
   if (shown_seconds_ >= kSecondsOfAFact && form1_.song_fact.visible()) {
     Hide();
     shown_seconds_ = 0;
-    SignBackToTrack();
+    show_track_on_sign();
   }
   if (engine_.MediaDuration() / (kLastFact + 1) >= spacing_seconds_) return;
   if (index_ >= kLastFact) {
     Hide();
     active_ = false;
-    SignBackToTrack();
+    show_track_on_sign();
   } else {
     const std::string& fact = table_.rows()[row_].facts[++index_];
     if (!fact.empty()) Show(fact);
@@ -55,17 +55,12 @@ void FactDisplay::Show(const std::string& fact) {
   form1_.song_fact.SetVisible(true);
   form1_.song_fact.BringToFront();
   show_on_second_monitor(&fact);
-  send_to_sign(fact, "");
+  show_fact_on_sign(fact);
 }
 
 void FactDisplay::Hide() {
   form1_.song_fact.SetVisible(false);
   show_on_second_monitor(nullptr);
-}
-
-void FactDisplay::SignBackToTrack() {
-  // From what is shown as playing: the tag read last may be another file's by now.
-  send_to_sign(form1_.now_playing_artist.caption(), form1_.now_playing_title.caption());
 }
 
 }  // namespace sonotik

@@ -17,11 +17,11 @@ class FactDisplay {
   FactDisplay(const FactTable& table, const TagFields& fields, MediaEngine& engine, Form1& form)
       : table_(table), fields_(fields), engine_(engine), form1_(form) {}
 
-  // The second monitor's panel: the text to show, or nullptr to hide it. And the sign, with its two
-  // lines. Nothing until they are there.
+  // The second monitor's panel: the text to show, or nullptr to hide it. And the sign, which shows
+  // a fact or, between two of them, the track again. Nothing until they are there.
   std::function<void(const std::string* text)> show_on_second_monitor = [](const std::string*) {};
-  std::function<void(const std::string& line1, const std::string& line2)> send_to_sign =
-      [](const std::string&, const std::string&) {};
+  std::function<void(const std::string& fact)> show_fact_on_sign = [](const std::string&) {};
+  std::function<void()> show_track_on_sign = [] {};
 
   // At a track's start, with its tag read. An artist without facts leaves the panels as they are
   // until the next tick; a title without facts hides them.
@@ -34,7 +34,6 @@ class FactDisplay {
  private:
   void Show(const std::string& fact);
   void Hide();
-  void SignBackToTrack();
 
   const FactTable& table_;
   const TagFields& fields_;

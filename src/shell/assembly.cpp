@@ -23,6 +23,7 @@ Assembly::Assembly(std::string path, Machine& ports)
       pin(app_path, ports.clock, settings, permissions, form1),
       network(app_path),
       sign(app_path),
+      led_sign(sign, ports.sign_port),
       tags(fields, [this] { return settings.use_filename_if_no_tag; }),
       skins(app_path, settings, lists, form1, ports),
       covers(app_path, settings),
@@ -63,6 +64,13 @@ Assembly::Assembly(std::string path, Machine& ports)
   };
   fact_display.show_on_second_monitor = [this](const std::string* fact) {
     video_window.ShowFact(fact);
+  };
+  tracks.hooks.send_to_sign = [this] { led_sign.ShowTrack(fields.txtArtist, fields.txtTitle); };
+  tracks.hooks.playing_info_cleared = [this] { led_sign.Clear(); };
+  fact_display.show_fact_on_sign = [this](const std::string& fact) { led_sign.ShowFact(fact); };
+  // From what is shown as playing: the tag read last may be another file's by now.
+  fact_display.show_track_on_sign = [this] {
+    led_sign.ShowTrack(form1.now_playing_artist.caption(), form1.now_playing_title.caption());
   };
   play_options.is_queued = [this](const std::string& chosen) { return queue.Contains(chosen); };
   selection.hand_to_master = [this](const std::string& track) {

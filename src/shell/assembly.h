@@ -29,6 +29,7 @@
 #include "forms/Form2.h"
 #include "forms/Form3.h"
 #include "forms/Splash.h"
+#include "peripherals/led_sign.h"
 #include "peripherals/network.h"
 #include "peripherals/sign_settings.h"
 #include "platform/machine.h"
@@ -91,6 +92,7 @@ struct Assembly {
   PinEntry pin;
   Network network;
   SignSettings sign;
+  LedSign led_sign;
 
   TagFields fields;
   TagReader tags;

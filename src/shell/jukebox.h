@@ -36,9 +36,14 @@ class Jukebox {
         keys(house, menu, navigation),
         options(house, effects),
         shutdown(house) {
+    start_up.hooks.load_sign = [this] {
+      house.sign.LoadSign();
+      house.led_sign.CommitChanges();
+    };
+    options.commit_sign = [this] { house.led_sign.CommitChanges(); };
+    shutdown.hooks.send_closing_text = [this] { house.led_sign.Clear(); };
     shutdown.hooks.save_random = [this] { SaveGenreLists(house.app_path, house.lists); };
     house.calendar.swap_skin = [this](const std::string& name) { effects.PutOnSkin(name); };
-    start_up.hooks.load_sign = [this] { house.sign.LoadSign(); };
     start_up.hooks.ApplySkin = [this] { effects.ApplySkin(); };
     start_up.hooks.update_skinlist = [this] { house.skins.UpdateSkinList(); };
     ticks.hooks.key_is_held = [this] { return keys.KeyIsHeld(); };

@@ -10,6 +10,7 @@
 #include <string>
 #include <vector>
 
+#include "files/runtime_failure.h"
 #include "platform/machine.h"
 
 namespace sonotik {
@@ -219,6 +220,24 @@ class TestSession : public Session {
   }
 };
 
+// A sign's line that keeps book: "open", each write's bytes, "close".
+class TestSerialPort : public SerialPort {
+ public:
+  std::vector<std::string> calls;
+  std::string settings = "9600,N,8,1";
+  int number = 1;
+  bool there = true;
+  void SetSettings(const std::string& text) override { settings = text; }
+  void SetCommPort(int comm_port) override { number = comm_port; }
+  void Open() override {
+    if (!there) throw RuntimeFailure("there is no such port");
+    calls.push_back("open");
+  }
+  void Discard() override { calls.push_back("discard"); }
+  void Output(std::string_view bytes) override { calls.emplace_back(bytes); }
+  void Close() override { calls.push_back("close"); }
+};
+
 struct TestMachine {
   TestClock clock;
   TestRandom random;
@@ -231,8 +250,9 @@ struct TestMachine {
   TestMessages messages;
   TestCoins coins;
   TestSession session;
-  Machine machine{clock,    random,    events,   timers, keys,   player,
-                  displays, processes, messages, coins,  session};
+  TestSerialPort sign_port;
+  Machine machine{clock,    random,    events,   timers, keys,    player,
+                  displays, processes, messages, coins,  session, sign_port};
 };
 
 }  // namespace sonotik

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "text/code_page.h"
 #include "text/dates.h"
 #include "text/numbers.h"
 
@@ -85,6 +86,25 @@ TEST(Dates, TimesAreShownInWholeSeconds) {
   EXPECT_EQ(MinutesSeconds(59.9), "0:59");
   EXPECT_EQ(MinutesSeconds(605), "10:05");
   EXPECT_EQ(MinutesSeconds(-3), "0:00");
+}
+
+TEST(CodePages, Utf8BecomesTheCodePageAndWhatIsNoneStaysAsItIs) {
+  const struct {
+    const char *text, *codes;
+  } cases[] = {
+      {"plain \x7F", "plain \x7F"},
+      {"\xC3\xA9\xC3\xBF\xC2\xA0", "\xE9\xFF\xA0"},
+      {"\xE2\x82\xAC\xE2\x84\xA2\xC5\xB8", "\x80\x99\x9F"},
+      {"\xC4\x80 \xE6\x97\xA5 \xF0\x9F\x8E\xB5 \xC2\x81", "? ? ? ?"},
+      // Neither cut nor overlong nor half a pair nor beyond the last character.
+      {"\xE9", "\xE9"},
+      {"a\xC3\xA9\xE2\x82", "a\xC3\xA9\xE2\x82"},
+      {"\xC0\x80", "\xC0\x80"},
+      {"\xED\xA0\x80", "\xED\xA0\x80"},
+      {"\xF4\x90\x80\x80", "\xF4\x90\x80\x80"},
+      {"\x93quoted\x94", "\x93quoted\x94"},
+  };
+  for (const auto& each : cases) EXPECT_EQ(InCodePage(each.text), each.codes) << each.text;
 }
 
 }  // namespace
