@@ -28,9 +28,9 @@ int StartAndPaint(int argc, char** argv) {
   SystemClock clock;
   TestMachine rest;
   Timers timers(clock);
-  Machine machine{clock,         rest.random,    rest.events,   timers,     rest.keys,   player,
-                  rest.displays, rest.processes, rest.messages, rest.coins, rest.session,
-                  rest.sign_port};
+  Machine machine{clock,        rest.random,    rest.events,    timers,         rest.keys,
+                  player,       rest.displays,  rest.processes, rest.messages,  rest.coins,
+                  rest.session, rest.sign_port, rest.mixer,     rest.visualiser};
   PictureCache pictures;
   Jukebox jukebox(ProgramPath(argv[1]), machine);
   FormWindow window(jukebox.house.form1.form, pictures);

@@ -6,6 +6,7 @@
 #include <iostream>
 
 #include "desktop/alsa_errors.h"
+#include "desktop/alsa_mixer.h"
 #include "desktop/coin_box.h"
 #include "desktop/drawn_pixels.h"
 #include "desktop/form_window.h"
@@ -16,6 +17,7 @@
 #include "desktop/serial_line.h"
 #include "desktop/signals.h"
 #include "desktop/video_hosts.h"
+#include "desktop/visualiser_process.h"
 #include "desktop/x11_keys.h"
 #include "files/paths.h"
 #include "files/program_folder.h"
@@ -43,11 +45,13 @@ int RunJukebox(const std::string& app_path) {
   CoinBox coins;
   LogindSession session(QDBusConnection::systemBus());
   SerialLine sign_port(app_path);
+  AlsaMixer mixer;
+  VisualiserProcess visualiser(app_path);
   MpvPlayer player([](std::function<void()> call) {
     QMetaObject::invokeMethod(qApp, std::move(call), Qt::QueuedConnection);
   });
-  Machine machine{clock,    random,    loop,     timers, keys,    player,
-                  displays, processes, messages, coins,  session, sign_port};
+  Machine machine{clock,     random,   loop,  timers,  keys,      player, displays,
+                  processes, messages, coins, session, sign_port, mixer,  visualiser};
   PictureCache pictures;
   Jukebox jukebox(app_path, machine);
   Assembly& house = jukebox.house;

@@ -95,6 +95,12 @@ std::string ReadWholeFile(std::string_view path) {
   }
 }
 
+std::string FirstLineOf(std::string_view path) {
+  if (!FileExists(path)) return "";
+  const std::string text = ReadWholeFile(path);
+  return text.substr(0, text.find_first_of("\r\n"));
+}
+
 void ReplaceFile(std::string_view path, std::string_view bytes, FileAccess access) {
   const fs::path target = NativePath(path);
   fs::path beside = target;

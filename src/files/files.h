@@ -27,6 +27,10 @@ FileStamp StampOf(std::string_view path);
 // The whole file. Throws RuntimeFailure if it can't be read.
 std::string ReadWholeFile(std::string_view path);
 
+// The first line of a text file without its end; empty if there is no such file. Throws
+// RuntimeFailure if it can't be read.
+std::string FirstLineOf(std::string_view path);
+
 // Who may read a file that is made: whoever the user's own settings allow, or nobody else, where a
 // PIN stands in it.
 enum class FileAccess { kUsual, kOwnerOnly };

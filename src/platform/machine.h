@@ -9,12 +9,14 @@
 #include "platform/event_loop.h"
 #include "platform/key_state.h"
 #include "platform/message_box.h"
+#include "platform/mixer.h"
 #include "platform/player.h"
 #include "platform/processes.h"
 #include "platform/random_source.h"
 #include "platform/serial_port.h"
 #include "platform/session.h"
 #include "platform/timers.h"
+#include "platform/visualiser.h"
 
 namespace sonotik {
 
@@ -31,6 +33,8 @@ struct Machine {
   CoinIntake& coins;
   Session& session;
   SerialPort& sign_port;
+  Mixer& mixer;
+  Visualiser& visualiser;
 };
 
 }  // namespace sonotik

@@ -21,6 +21,8 @@ Assembly::Assembly(std::string path, Machine& ports)
       key_map(app_path),
       permissions(app_path, ports.messages),
       pin(app_path, ports.clock, settings, permissions, form1),
+      inputs(app_path, ports.mixer, ports.processes),
+      winamp(app_path, ports.visualiser),
       network(app_path),
       sign(app_path),
       led_sign(sign, ports.sign_port),
@@ -66,7 +68,14 @@ Assembly::Assembly(std::string path, Machine& ports)
     video_window.ShowFact(fact);
   };
   tracks.hooks.send_to_sign = [this] { led_sign.ShowTrack(fields.txtArtist, fields.txtTitle); };
-  tracks.hooks.playing_info_cleared = [this] { led_sign.Clear(); };
+  tracks.hooks.mute_line_in = [this] { inputs.MuteLineIn(); };
+  tracks.hooks.mute_microphone = [this](bool mute) { inputs.MuteMicrophone(mute); };
+  tracks.hooks.start_visualisation = [this] { winamp.Start(); };
+  tracks.hooks.close_visualisation = [this] { winamp.Execute(cls_Winamp::kClose); };
+  tracks.hooks.playing_info_cleared = [this] {
+    led_sign.Clear();
+    winamp.Execute(cls_Winamp::kClose);
+  };
   fact_display.show_fact_on_sign = [this](const std::string& fact) { led_sign.ShowFact(fact); };
   // From what is shown as playing: the tag read last may be another file's by now.
   fact_display.show_track_on_sign = [this] {

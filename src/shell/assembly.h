@@ -29,6 +29,8 @@
 #include "forms/Form2.h"
 #include "forms/Form3.h"
 #include "forms/Splash.h"
+#include "peripherals/cls_Winamp.h"
+#include "peripherals/input_muting.h"
 #include "peripherals/led_sign.h"
 #include "peripherals/network.h"
 #include "peripherals/sign_settings.h"
@@ -90,6 +92,8 @@ struct Assembly {
   KeyMap key_map;
   Permissions permissions;
   PinEntry pin;
+  InputMuting inputs;
+  cls_Winamp winamp;
   Network network;
   SignSettings sign;
   LedSign led_sign;

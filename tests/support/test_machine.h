@@ -238,6 +238,30 @@ class TestSerialPort : public SerialPort {
   void Close() override { calls.push_back("close"); }
 };
 
+class TestMixer : public Mixer {
+ public:
+  std::vector<std::string> calls;
+  bool SetMute(MixerLine line, bool mute) override {
+    calls.push_back((line == MixerLine::kLineIn ? "line " : "mic ") + std::to_string(mute));
+    return false;
+  }
+};
+
+class TestVisualiser : public Visualiser {
+ public:
+  std::vector<std::string> calls;
+  bool running = false;
+  void Start(const std::string& command) override {
+    calls.push_back(command);
+    running = true;
+  }
+  bool IsRunning() override { return running; }
+  void AskToClose() override {
+    calls.push_back("close");
+    running = false;
+  }
+};
+
 struct TestMachine {
   TestClock clock;
   TestRandom random;
@@ -251,8 +275,10 @@ struct TestMachine {
   TestCoins coins;
   TestSession session;
   TestSerialPort sign_port;
-  Machine machine{clock,    random,    events,   timers, keys,    player,
-                  displays, processes, messages, coins,  session, sign_port};
+  TestMixer mixer;
+  TestVisualiser visualiser;
+  Machine machine{clock,     random,   events, timers,  keys,      player, displays,
+                  processes, messages, coins,  session, sign_port, mixer,  visualiser};
 };
 
 }  // namespace sonotik

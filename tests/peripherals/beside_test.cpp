@@ -1,0 +1,94 @@
+// What goes on beside a track: the inputs' switches and the visualisation.
+#include "support/jukebox_test.h"
+
+namespace sonotik {
+namespace {
+
+using Calls = std::vector<std::string>;
+
+class BesideTest : public JukeboxTest {
+ protected:
+  BesideTest() {
+    settings.mute_line_in_on_play = true;
+    settings.enable_mic_on_videos = true;
+    settings.use_visualisations = true;
+    WriteDefaults();
+    folder.Write("mute.txt", "mute -a \"b, c\"\r\nnot this\r\n");
+    folder.Write("unmute.txt", "open");
+    song = WriteTrack("Day", "1.wav");
+    film = WriteTrack("Day", "2.mpg");
+  }
+  void Play(const std::string& path) {
+    machine.mixer.calls.clear();
+    machine.processes.started.clear();
+    machine.visualiser.calls.clear();
+    house().selection.Choose(path, PlayWay::kPlayNow);
+  }
+  std::string song, film;
+};
+
+TEST_F(BesideTest, TheMicrophoneFollowsTheKindOfTrackAndTheLineIsNeverOpenedAgain) {
+  Start();
+  const struct {
+    const std::string& path;
+    Calls mixer, commands;
+  } cases[] = {
+      {song, {"line 1", "mic 1"}, {"mute -a \"b, c\""}},
+      {film, {"line 1", "mic 0"}, {"open"}},
+  };
+  for (const auto& each : cases) {
+    Play(each.path);
+    EXPECT_EQ(machine.mixer.calls, each.mixer) << each.path;
+    EXPECT_EQ(machine.processes.started, each.commands) << each.path;
+  }
+  machine.mixer.calls.clear();
+  Advance(40);
+  jukebox->shutdown.power_down();
+  EXPECT_EQ(machine.mixer.calls, Calls{}) << "neither the end of a track nor of the program";
+}
+
+TEST_F(BesideTest, AScriptThatIsMissingOrEmptyIsNone) {
+  Start();
+  for (const char* script : {"", "\r\n", "\nnot this"}) {
+    folder.Write("mute.txt", script);
+    Play(song);
+    EXPECT_EQ(machine.processes.started, Calls{}) << script;
+  }
+  std::filesystem::remove(folder.native() / "unmute.txt");
+  Play(film);
+  EXPECT_EQ(machine.processes.started, Calls{});
+  EXPECT_EQ(machine.mixer.calls, (Calls{"line 1", "mic 0"}));
+}
+
+TEST_F(BesideTest, TheVisualisationRunsBesideSongsUntilAFilmSilenceOrPowerDown) {
+  Start();
+  Play(song);
+  EXPECT_EQ(machine.visualiser.calls, Calls{"projectM-pulseaudio"});
+  Play(song);
+  EXPECT_EQ(machine.visualiser.calls, Calls{}) << "it runs already";
+  Play(film);
+  EXPECT_EQ(machine.visualiser.calls, Calls{"close"});
+  folder.Write("visualiser.txt", "goom --full\r\n");
+  Play(song);
+  EXPECT_EQ(machine.visualiser.calls, Calls{"goom --full"});
+  house().winamp.Execute(40002);
+  EXPECT_TRUE(machine.visualiser.running) << "no other command is known";
+  Advance(35);
+  EXPECT_EQ(machine.visualiser.calls, (Calls{"goom --full", "close"})) << "silence";
+  folder.Write("visualiser.txt", "\r\n");
+  Play(song);
+  EXPECT_EQ(machine.visualiser.calls, Calls{}) << "an empty line is none";
+  machine.visualiser.running = true;
+  jukebox->shutdown.power_down();
+  EXPECT_EQ(machine.visualiser.calls, Calls{"close"});
+}
+
+TEST_F(BesideTest, ATimedExitLeavesTheVisualisationRunning) {
+  Start();
+  Play(song);
+  jukebox->shutdown.TimedExit();
+  EXPECT_TRUE(machine.visualiser.running);
+}
+
+}  // namespace
+}  // namespace sonotik
