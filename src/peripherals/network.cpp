@@ -1,29 +1,29 @@
 #include "peripherals/network.h"
 
-#include <algorithm>
+#include <atomic>
 
 #include "files/files.h"
 #include "files/line_format.h"
+#include "files/new_file.h"
 #include "files/runtime_failure.h"
 #include "text/numbers.h"
-#include "text/text.h"
 
 namespace sonotik {
 namespace {
 
-// Two flags and a path; whatever is larger is no selection.
-constexpr int64_t kLongestSpool = 65536;
+// Whose word is the last: the writer's, who gives the file its name, or the guest's, who has waited
+// long enough and got his credits back.
+enum class Handing { kWriting, kNamed, kGivenUp };
 
-SpooledSelection Parse(const std::string& text) {
-  // The path is a whole line: a comma in it is part of it.
-  LineReader reader(text);
-  SpooledSelection selection;
-  selection.play_now_flag = FieldReader(reader.Next() + "\r\n").Int16();
-  selection.play_next_flag = FieldReader(reader.Next() + "\r\n").Int16();
-  selection.path = reader.Next();
-  // Queued, an empty path would stand at the head and never be taken.
-  if (TrimBlanks(selection.path).empty()) throw RuntimeFailure("a spool file without a path");
-  return selection;
+void HandOver(const std::string& prefix, const std::string& text, std::atomic<Handing>& handing) {
+  const NewFile file(prefix + "Queue", text);
+  Handing writing = Handing::kWriting;
+  if (!handing.compare_exchange_strong(writing, Handing::kNamed)) return;
+  std::string name = prefix + "Queue.QUE";
+  for (long counter = 1; !file.TakeName(name); ++counter) {
+    // The counter's blank is part of the name; that is meant.
+    name = prefix + "Queue" + NumberCaption(counter) + ".QUE";
+  }
 }
 
 }  // namespace
@@ -33,9 +33,10 @@ void Network::LoadTerminal() {
   if (!FileExists(path)) return;
   FieldReader reader(ReadWholeFile(path));
   reader.Skip();
-  shared_folder_ = reader.Text();
+  std::string folder = reader.Text();
   const bool master = reader.Truth();
   SetRole(master, reader.Truth());
+  shared_folder_ = std::move(folder);
 }
 
 void Network::SaveTerminal() const {
@@ -53,69 +54,32 @@ void Network::SetRole(bool master, bool terminal) {
   master_ = master && !terminal;
 }
 
-void Network::WriteSpool(const SpooledSelection& selection) const {
+void Network::WriteSpool(const SpooledSelection& selection) {
   if (selection.path.find_first_of("\r\n") != std::string::npos) {
     throw RuntimeFailure("a path of two lines can't be handed over");
-  }
-  std::string name = shared_folder_ + "Queue.QUE";
-  for (long counter = 1; FileExists(name); ++counter) {
-    name = shared_folder_ + "Queue" + NumberCaption(counter) + ".QUE";
   }
   LineWriter writer;
   writer.Number(static_cast<long>(selection.play_now_flag));
   writer.Number(static_cast<long>(selection.play_next_flag));
   writer.Text(selection.path);
-  AppendToFile(name, writer.text());
+  const auto handing = std::make_shared<std::atomic<Handing>>(Handing::kWriting);
+  const bool done = share_.Run([prefix = shared_folder_, text = writer.text(), handing] {
+    HandOver(prefix, text, *handing);
+  });
+  Handing writing = Handing::kWriting;
+  if (!done && handing->compare_exchange_strong(writing, Handing::kGivenUp)) {
+    throw RuntimeFailure("the folder " + shared_folder_ + " doesn't answer");
+  }
 }
 
 std::optional<SpooledSelection> Network::ReadSpool() {
-  spool_files_.SetFolder(app_path_);
-  ForgetGoneFiles();
-  for (int i = 0; i < spool_files_.count(); ++i) {
-    served_ = spool_files_.PathAt(i);
-    const FileStamp stamp = served_stamp_ = StampOf(served_);
-    // Just begun, no file at all, or none of ours.
-    if (stamp.size <= 0 || stamp.size > kLongestSpool || !FileExists(served_)) continue;
-    const auto waits = waiting_.find(served_);
-    if (waits != waiting_.end() && waits->second.served && waits->second.stamp == stamp) continue;
-    std::string text;
-    try {
-      text = ReadWholeFile(served_);
-    } catch (const RuntimeFailure&) {
-      // A share may be away for a moment: it counts as one that isn't whole yet.
-    }
-    if (StillWritten(stamp, text)) continue;
-    try {
-      return Parse(text);
-    } catch (const RuntimeFailure&) {
-      TakeAway([this] { RenameFile(served_, served_ + ".bad"); });
-      throw;
-    }
-  }
-  return {};
-}
-
-bool Network::StillWritten(const FileStamp& stamp, const std::string& text) {
-  if (std::count(text.begin(), text.end(), '\n') >= 3) return false;
-  Waiting& waiting = waiting_[served_];
-  if (!(stamp == waiting.stamp)) waiting = {stamp};
-  // Whoever writes by hand may leave the last line open for good.
-  return ++waiting.looks < kPatience;
+  const auto found = std::make_shared<std::optional<SpooledSelection>>();
+  if (!share_.Run([spool = spool_, found] { *found = spool->Read(); })) return {};
+  return *found;
 }
 
 void Network::RemoveSpool() {
-  TakeAway([this] { DeleteFileIfThere(served_); });
-}
-
-template <typename Take>
-void Network::TakeAway(Take take) {
-  waiting_[served_] = {served_stamp_, 0, true};
-  take();
-  waiting_.erase(served_);
-}
-
-void Network::ForgetGoneFiles() {
-  std::erase_if(waiting_, [](const auto& entry) { return !FileExists(entry.first); });
+  share_.Run([spool = spool_] { spool->Remove(); });
 }
 
 }  // namespace sonotik

@@ -23,7 +23,7 @@ Assembly::Assembly(std::string path, Machine& ports)
       pin(app_path, ports.clock, settings, permissions, form1),
       inputs(app_path, ports.mixer, ports.processes),
       winamp(app_path, ports.visualiser),
-      network(app_path),
+      network(app_path, share),
       sign(app_path),
       led_sign(sign, ports.sign_port),
       tags(fields, [this] { return settings.use_filename_if_no_tag; }),

@@ -94,6 +94,7 @@ struct Assembly {
   PinEntry pin;
   InputMuting inputs;
   cls_Winamp winamp;
+  BoundedCalls share;
   Network network;
   SignSettings sign;
   LedSign led_sign;

@@ -287,7 +287,7 @@ TEST_F(SpoolTest, HalfWrittenFilesWaitUntilTheyAreWholeAndKeepNoOtherWaiting) {
   folder.Write("B.QUE", " 0 \r\n 0 \r\n\\m\\2.wav");
   folder.Write("C.QUE", " 0 \r\n");
   folder.Write("D.QUE", " 0 \r\n 0 \r\n\\m\\4.wav\r\n");
-  Poll(Network::kPatience - 1);
+  Poll(SpoolFolder::kPatience - 1);
   EXPECT_EQ(house().queue.count(), 1);
   EXPECT_EQ(Queued(0), "\\m\\4.wav");
   folder.Write("A.QUE", " 0 \r\n 0 \r\n\\m\\1.wav\r\n");

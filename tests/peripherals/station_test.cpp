@@ -1,0 +1,195 @@
+// Several stations and one player, on real folders.
+#include <atomic>
+#include <set>
+#include <thread>
+
+#include "support/jukebox_test.h"
+
+namespace sonotik {
+namespace {
+
+// The fixture's jukebox is the Master, whose folder is the shared one.
+class StationTest : public JukeboxTest {
+ protected:
+  StationTest() { folder.Write("terminal.ini", "x\r\n\r\nTrue\r\nFalse\r\n"); }
+  void Poll() {
+    machine.clock.Add(10);
+    machine.timers.FireDue();
+  }
+  TempFolder terminal_folder;
+};
+
+// A shared folder that has gone, as the calls into it see it, until it comes back.
+class Outage {
+ public:
+  explicit Outage(BoundedCalls& share) : share_(share) {
+    share_.patience = std::chrono::milliseconds(0);
+    EXPECT_FALSE(share_.Run([back = back_.get_future().share()] { back.wait(); }));
+  }
+  void End() {
+    share_.patience = std::chrono::seconds(10);
+    back_.set_value();
+    while (!share_.Run([] {})) std::this_thread::yield();
+  }
+
+ private:
+  BoundedCalls& share_;
+  std::promise<void> back_;
+};
+
+TEST_F(StationTest, ATerminalsSelectionPlaysOnTheMasterWithinASecond) {
+  const std::string song = WriteTrack("Day", "a, b & c.wav");
+  Start();
+  TestMachine panel;
+  terminal_folder.Write("sonotik.def", folder.Read("sonotik.def"));
+  terminal_folder.Write("Records.rec", "");
+  terminal_folder.Write("startup.mp3", "sound");
+  terminal_folder.Write("terminal.ini", "x\r\n" + folder.path() + "\\\r\nFalse\r\nTrue\r\n");
+  Jukebox terminal(terminal_folder.path(), panel.machine);
+  ASSERT_EQ(terminal.Start(), StartUpResult::kRunning);
+  terminal.navigation.Choose(song, PlayWay::kAddToQueue);
+  Advance(1);
+  EXPECT_EQ(machine.player.file, song);
+  EXPECT_EQ(panel.player.file, "");
+  EXPECT_FALSE(folder.Has("Queue.QUE"));
+  EXPECT_FALSE(folder.Has("Queue.0.part"));
+}
+
+TEST_F(StationTest, AHundredSelectionsOfFourTerminalsAtOnceArriveOnceEachAndWhole) {
+  Start();
+  house().playback.paused = true;  // nothing leaves the queue
+  std::vector<std::thread> terminals;
+  for (int t = 0; t < 4; ++t) {
+    terminals.emplace_back([t, shared = folder.path() + "\\"] {
+      BoundedCalls share;
+      share.patience = std::chrono::seconds(60);
+      const std::string none;
+      Network network(none, share);
+      network.SetSharedFolder(shared);
+      for (int i = 0; i < 25; ++i) {
+        network.WriteSpool({0, 0, "\\m\\" + std::to_string(t * 25 + i) + ".wav"});
+      }
+    });
+  }
+  std::atomic<bool> written = false;
+  std::thread last([&] {
+    for (std::thread& terminal : terminals) terminal.join();
+    written = true;
+  });
+  while (!written) Poll();
+  last.join();
+  for (int i = 0; i < 101; ++i) Poll();
+  std::set<std::string> arrived;
+  for (int i = 0; i < house().queue.count(); ++i) arrived.insert(house().queue.path(i));
+  EXPECT_EQ(house().queue.count(), 100);
+  EXPECT_EQ(arrived.size(), 100U);
+  for (int i = 0; i < 100; ++i) {
+    EXPECT_TRUE(arrived.contains("\\m\\" + std::to_string(i) + ".wav")) << i;
+  }
+  EXPECT_EQ(house().boundary.failures(), 0);
+}
+
+TEST_F(StationTest, AFolderThatDoesNotAnswerStallsNobodyAndLosesNothing) {
+  Start();
+  house().playback.paused = true;
+  folder.Write("Queue.QUE", " 0 \r\n 0 \r\n\\m\\1.wav\r\n");
+  Outage outage(house().share);
+  house().credits.Receive("5");
+  for (int i = 0; i < 100; ++i) Poll();
+  EXPECT_EQ(house().queue.count(), 0);
+  EXPECT_EQ(house().credits.count(), 5);
+  outage.End();
+  Poll();
+  EXPECT_EQ(house().queue.path(0), "\\m\\1.wav");
+  EXPECT_EQ(house().boundary.failures(), 0);
+}
+
+TEST_F(StationTest, WhatATerminalCouldNotHandOverIsPaidBackAndNeverArrivesLater) {
+  BoundedCalls share;
+  const std::string none;
+  Network network(none, share);
+  network.SetSharedFolder(folder.path() + "\\");
+  {
+    Outage outage(share);
+    EXPECT_THROW(network.WriteSpool({0, 0, "\\m\\lost.wav"}), RuntimeFailure);
+    outage.End();
+  }
+  EXPECT_FALSE(folder.Has("Queue.QUE"));
+  // Given up at every moment of the writing: told to have failed and lying there never go together.
+  int handed_over = 0;
+  for (int i = 0; i < 300; ++i) {
+    share.patience = std::chrono::milliseconds(i % 3);
+    try {
+      network.WriteSpool({0, 0, "\\m\\" + std::to_string(i) + ".wav"});
+      ++handed_over;
+    } catch (const RuntimeFailure&) {
+    }
+  }
+  share.patience = std::chrono::seconds(10);
+  while (!share.Run([] {})) std::this_thread::yield();
+  int lying = 0;
+  for (const auto& entry : std::filesystem::directory_iterator(folder.native())) {
+    EXPECT_NE(entry.path().extension(), ".part");
+    if (entry.path().extension() == ".QUE") ++lying;
+  }
+  EXPECT_EQ(lying, handed_over);
+}
+
+TEST_F(StationTest, WithAnEmptyBoxTheWorkingFolderIsTheSharedOne) {
+  folder.Write("terminal.ini", "x\r\n\r\nFalse\r\nTrue\r\n");
+  Start();
+  house().selection.Choose("\\m\\1.wav", PlayWay::kAddToQueue);
+  EXPECT_EQ(folder.Read("Queue.QUE"), " 0 \r\n 0 \r\n\\m\\1.wav\r\n");
+}
+
+TEST_F(StationTest, ADamagedTerminalFileLeavesTheStationAlone) {
+  const std::string whole = "Terminal \\ Master config\r\n\\share\\\r\nTrue\r\nTrue\r\n";
+  const std::string app_path = folder.path();
+  BoundedCalls share;
+  for (size_t length = 0; length < whole.size() - 6; ++length) {
+    folder.Write("terminal.ini", whole.substr(0, length));
+    Network network(app_path, share);
+    EXPECT_THROW(network.LoadTerminal(), RuntimeFailure) << length;
+    EXPECT_FALSE(network.master() || network.terminal()) << length;
+    EXPECT_EQ(network.shared_folder(), "") << length;
+  }
+  for (const std::string& box : {std::string(100000, 'x') + "\\", std::string("..\\gone\\"),
+                                 folder.path() + "\\terminal.ini\\"}) {
+    folder.Write("terminal.ini", "x\r\n" + box + "\r\nFalse\r\nTrue\r\n");
+    Network network(app_path, share);
+    network.LoadTerminal();
+    EXPECT_THROW(network.WriteSpool({0, 0, "\\m\\1.wav"}), RuntimeFailure) << box.substr(0, 20);
+  }
+}
+
+TEST_F(StationTest, SpoolFilesOfAnyBytesStopNothing) {
+  folder.Write("music/song.wav", "sound");
+  Start();
+  const std::string music = folder.path() + "\\music";
+  const struct {
+    std::string flags, path;
+  } cases[] = {
+      {" 2 \r\n-7 ", music + "\\..\\music\\song.wav"},
+      {"1\r\n0", music},                                // a folder
+      {" 1 \r\n 0 ", music + "\\gone.wav"},             // nothing
+      {" 1 \r\n 0 ", folder.path() + "\\sonotik.def"},  // no media
+      {" 0 \r\n 0 ", std::string(60000, 'x')},
+      {" 0 \r\n 0 ", std::string(100000, 'x')},
+      {"\xFF\r\n\0", "\\m\\1.wav"},
+      {"70000\r\n 0 ", "\\m\\1.wav"},
+      {"True\r\nFalse", "\\m\\1.wav"},
+  };
+  int n = 0;
+  for (const auto& each : cases) {
+    folder.Write("Queue " + std::to_string(++n) + ".QUE", each.flags + "\r\n" + each.path + "\r\n");
+  }
+  const std::string last = WriteTrack("Day", "1.wav");
+  folder.Write("Queue.QUE", " 1 \r\n 0 \r\n" + last + "\r\n");
+  for (int i = 0; i < 12; ++i) Poll();
+  EXPECT_EQ(machine.player.file, last);
+  EXPECT_FALSE(folder.Has("Queue.QUE"));
+  EXPECT_EQ(house().playback.play_now_flag, 0);
+}
+
+}  // namespace
+}  // namespace sonotik
