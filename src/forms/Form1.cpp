@@ -82,7 +82,7 @@ Form1::Form1()
 
   AddPanel(form, genre_bar, {0, 0, kWidth, kMenuHeight}, kPanel);
   AddPanel(form, pin_screen, {440, 150, 400, 480}, kRaised);
-  AddLabel(form, song_fact, {240, kPlayerTop - 112, 800, 96}, 16, kText, Align::kCenter, true);
+  AddLabel(form, song_fact, {0, kPlayerTop - 56, kWidth, 56}, 18, kText, Align::kCenter, true);
   song_fact.SetPlate(kRaised);
   song_fact.SetWrap(true);
   song_fact.SetVisible(false);
@@ -145,10 +145,16 @@ void Form1::HideAllScreens() {
 
 void Form1::ShowScreen(size_t index) {
   ++screens_shown_;
+  shown_last_ = index;
   panels[index].SetVisible(true);
   panels[index].BringToFront();
-  // A fact of the song that plays lies over all screens.
-  if (song_fact.visible()) song_fact.BringToFront();
+  RaiseFact();
+}
+
+void Form1::RaiseFact() {
+  const bool looked_at = shown_last_ == screen::kNowPlaying || shown_last_ == screen::kAlbum ||
+                         shown_last_ == screen::kCarousel;
+  if (looked_at && song_fact.visible()) song_fact.BringToFront();
 }
 
 }  // namespace sonotik

@@ -114,13 +114,17 @@ struct Form1 {
   void HideAllScreens();
   // Shows one panel in front.
   void ShowScreen(size_t index);
-  // How often that was done: where it has grown, somebody went on from where he was.
+  // A fact of the song lies over the screens that are looked at; where somebody works it would cover
+  // buttons.
+  void RaiseFact();
+  // How often a screen was shown: where it has grown, somebody went on from where he was.
   unsigned long screens_shown() const { return screens_shown_; }
   // What no file of a skin places keeps its share of its panel, whatever size a skin gives that.
   void FitUnplaced();
 
  private:
   unsigned long screens_shown_ = 0;
+  size_t shown_last_ = screen::kAlbum;
   struct Unplaced {
     Control* control;
     Rect design;

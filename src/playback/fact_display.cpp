@@ -53,7 +53,7 @@ void FactDisplay::TickSongFacts() {
 void FactDisplay::Show(const std::string& fact) {
   form1_.song_fact.SetCaption(DoubleAmpersands(fact));
   form1_.song_fact.SetVisible(true);
-  form1_.song_fact.BringToFront();
+  form1_.RaiseFact();
   show_on_second_monitor(&fact);
   show_fact_on_sign(fact);
 }

@@ -81,7 +81,10 @@ TEST_F(SecondMonitorTest, FactsShowInBothWindowsWhetherOrNotTheSecondIsUsed) {
   Play(song);
   EXPECT_TRUE(form().song_fact.visible());
   form().ShowScreen(screen::kNowPlaying);
-  EXPECT_EQ(form().form.children().back(), &form().song_fact) << "whatever screen is looked at";
+  EXPECT_EQ(form().form.children().back(), &form().song_fact);
+  form().ShowScreen(screen::kOptions);
+  EXPECT_NE(form().form.children().back(), &form().song_fact) << "over buttons";
+  form().ShowScreen(screen::kNowPlaying);
   EXPECT_TRUE(house().form3.facts.visible());
   EXPECT_EQ(house().form3.fact.caption(), form().song_fact.caption());
   Advance(13);
