@@ -53,10 +53,13 @@ wear() {
   window=$(awk '$1 == "window" { printf "%dx%d+0+0", $4, $5 }' "$work/places")
   screens=$(awk '$1 == "player" { printf "%dx%d+0+0", $4, $3 }' "$work/places")
 }
-press() {
+press_only() {
   local left top width height
   read -r left top width height < <(awk -v n="$1" '$1 == n { print $2, $3, $4, $5 }' "$work/places")
   xdotool mousemove $(awk "BEGIN { printf \"%d %d\", $left + $width / 2, $top + $height / 2 }") click 1
+}
+press() {
+  press_only "$1"
   # What the click has put on the screen: two pictures that agree.
   settle
 }

@@ -33,8 +33,6 @@ StartUpResult StartUp::Form_Load() {
   });
 
   house_.lists.FillFixed(clsScreens(house_.machine.displays).Count());
-  Run("sign lists", hooks.set_up_sign_lists);
-  Run("working lists", hooks.set_up_working_lists);
   Run("load_facts", [&] { house_.facts.load_facts(); });
   ListGenres();
   Run("genre_scroll_show", hooks.genre_scroll_show);
@@ -46,7 +44,6 @@ StartUpResult StartUp::Form_Load() {
   Milestone("Keyboard Shortcuts Loaded");
   ChangeWorkingFolder(app_path);
   Milestone("Set app Path");
-  Run("settings pages", hooks.show_settings_pages);
   SetUpYearButtons();
   Milestone("Year Buttons Set Up");
   Run("search screen", hooks.clear_search);

@@ -14,10 +14,7 @@ namespace sonotik {
 // nothing until its owner fills it in.
 struct StartUpHooks {
   std::function<void(bool visible)> show_splash = [](bool) {};
-  std::function<void()> set_up_sign_lists = [] {};
-  std::function<void()> set_up_working_lists = [] {};
   std::function<void()> genre_scroll_show = [] {};
-  std::function<void()> show_settings_pages = [] {};
   std::function<void()> clear_search = [] {};
   std::function<void()> read_window_style = [] {};
   std::function<void()> ApplySkin = [] {};
