@@ -82,8 +82,7 @@ Form1::Form1()
 
   AddPanel(form, genre_bar, {0, 0, kWidth, kMenuHeight}, kPanel);
   AddPanel(form, pin_screen, {440, 150, 400, 480}, kRaised);
-  AddLabel(form, song_fact, {0, kPlayerTop - 56, kWidth, 56}, 18, kText, Align::kCenter, true);
-  song_fact.SetPlate(kRaised);
+  AddLabel(form, song_fact, {}, 18);
   song_fact.SetWrap(true);
   song_fact.SetVisible(false);
   AddPanel(form, attract_picture, {0, 0, kWidth, kHeight});
@@ -93,7 +92,6 @@ Form1::Form1()
 
   for (Control* child : panels[screen::kCarousel].children()) KeepShare(*child);
   for (Control* child : carousel.strip.children()) KeepShare(*child);
-  KeepShare(search_results.list_panel);
   for (lvButtons_H& button : search_results.lists) KeepShare(button);
   KeepShare(search.suggestions.back());
   for (ChartRow& row : decades.rows) {
@@ -111,7 +109,6 @@ Form1::Form1()
   KeepShare(random);
   KeepShare(searching.panel);
   KeepShare(attract_picture);
-  KeepShare(song_fact);
 }
 
 void Form1::KeepShare(Control& control) {
@@ -120,6 +117,9 @@ void Form1::KeepShare(Control& control) {
 }
 
 void Form1::FitUnplaced() {
+  // In the place of two rows: there are none where the lists are offered.
+  search_results.list_panel.SetPlace(
+      search_results.rows[1].blank.place().United(search_results.rows[2].blank.place()));
   for (const Unplaced& item : unplaced_) {
     const Rect panel = item.control->parent()->place();
     const float across = panel.width / item.panel.width;
@@ -138,6 +138,23 @@ void Form1::FitUnplaced() {
   options.LayOut();
 }
 
+void Form1::PlaceFact() {
+  // Between the rating and what comes next, in the names' column and letters; a strip at the
+  // screen's foot where a skin leaves no room there.
+  const Rect names = now_playing.artist.AbsolutePlace(), foot = player.place();
+  const float strip = 56 * form.place().height / kHeight;
+  const float top = std::max(names.bottom(), now_playing.rating_down.AbsolutePlace().bottom());
+  const float bottom = std::min(now_playing.next_song_caption.AbsolutePlace().top,
+                                now_playing.next_song_cover.AbsolutePlace().top);
+  const bool beside = bottom - top >= strip;
+  song_fact.SetPlace(beside ? Rect{names.left, top, names.width, bottom - top}
+                            : Rect{foot.left, foot.top - strip, foot.width, strip});
+  song_fact.SetPlate(beside ? std::nullopt : std::optional(kRaised));
+  song_fact.SetAlign(beside ? Align::kLeft : Align::kCenter);
+  song_fact.SetFont(now_playing.artist.font());
+  song_fact.SetForeColor(now_playing.title.fore_color());
+}
+
 void Form1::HideAllScreens() {
   // Panels 14 and 15 are parts of other screens and stay as they are.
   for (size_t i = 0; i <= screen::kPlayOptions; ++i) panels[i].SetVisible(false);
@@ -152,9 +169,11 @@ void Form1::ShowScreen(size_t index) {
 }
 
 void Form1::RaiseFact() {
-  const bool looked_at = shown_last_ == screen::kNowPlaying || shown_last_ == screen::kAlbum ||
-                         shown_last_ == screen::kCarousel;
-  if (looked_at && song_fact.visible()) song_fact.BringToFront();
+  if (shown_last_ != screen::kNowPlaying || !song_fact.visible() || attract_picture.visible()) {
+    return;
+  }
+  PlaceFact();
+  song_fact.BringToFront();
 }
 
 }  // namespace sonotik

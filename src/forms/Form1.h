@@ -83,7 +83,7 @@ struct Form1 {
   Label credits;
   Label play_caption;  // beside the credit display: "Play NOW"
   Label clock;
-  // Over whatever screen shows while a fact of the playing song is up.
+  // Over the NowPlayingScreen while a fact of the playing song is up.
   Label song_fact;
   // Further panels beside the sixteen.
   Panel pin_screen;
@@ -114,8 +114,8 @@ struct Form1 {
   void HideAllScreens();
   // Shows one panel in front.
   void ShowScreen(size_t index);
-  // A fact of the song lies over the screens that are looked at; where somebody works it would cover
-  // buttons.
+  // A fact of the song lies over the screen that is looked at; where somebody works it would cover
+  // what he works with.
   void RaiseFact();
   // How often a screen was shown: where it has grown, somebody went on from where he was.
   unsigned long screens_shown() const { return screens_shown_; }
@@ -131,6 +131,7 @@ struct Form1 {
     Rect panel;  // its size in the design
   };
   void KeepShare(Control& control);
+  void PlaceFact();
 
   std::vector<Unplaced> unplaced_;
 };

@@ -35,7 +35,6 @@ void OptionPage::SetShown(const Control& control, bool shown) {
   for (Item& item : items_) {
     if (item.control == &control) item.shown = shown;
   }
-  ShowPage(page_);
 }
 
 float OptionPage::scale() const {
@@ -45,7 +44,7 @@ float OptionPage::scale() const {
 float OptionPage::FrameHeight(size_t first) const {
   float height = items_[first].height;
   for (size_t i = first + 1; i < items_.size() && !items_[i].heads_frame; ++i) {
-    height += kGap + items_[i].height;
+    if (items_[i].shown) height += kGap + items_[i].height;
   }
   return height;
 }
@@ -69,6 +68,7 @@ void OptionPage::LayOut(float foot) {
   };
   for (size_t i = 0; i < items_.size(); ++i) {
     Item& item = items_[i];
+    if (!item.shown) continue;
     if (item.heads_frame && top > kGap) {
       const float needed = FrameHeight(i);
       // A frame that fits into a column isn't torn; a larger one begins where two of its fields do.

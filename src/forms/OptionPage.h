@@ -21,7 +21,8 @@ class OptionPage {
   // A field, or any control of this height in the forms' design. With a slider on it, that too.
   void Add(Control& control, float height, Slider* slider = nullptr);
 
-  // Whether a control of the page shows at all; its place stays free while it doesn't.
+  // Whether a control of the page shows from the next laying out on; the others move up while it
+  // doesn't.
   void SetShown(const Control& control, bool shown);
 
   // Lays all out anew: the panel has another size. `foot` is the height kept free below.

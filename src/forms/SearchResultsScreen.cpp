@@ -31,10 +31,9 @@ SearchResultsScreen::SearchResultsScreen(Panel& screen, Panel& lists_of_screen)
   AddButton(panel, down, {kSideLeft + 134, 470, 122, 60}, "DOWN", 14);
   AddMainButton(panel, back, kBackPlace, "BACK");
 
-  // No skin places it: it fits on the narrowest of them, beside the commands.
-  AddPanel(panel, list_panel, {24, 150, 780, 120}, kRaised);
+  AddPanel(panel, list_panel, rows[1].blank.place().United(rows[2].blank.place()), kRaised);
   for (size_t i = 0; i < lists.size(); ++i) {
-    AddButton(list_panel, lists[i], {16 + 190 * static_cast<float>(i), 24, 178, 72},
+    AddButton(list_panel, lists[i], {16 + 190 * static_cast<float>(i), 40, 178, 72},
               "Rolling Stone Top 500");
     lists[i].SetVisible(false);
   }

@@ -322,6 +322,7 @@ void Options::ShowPinBoxes(bool visible) {
   OptionPage& page = screen_.settings[0];
   page.SetShown(FieldOf(&house_.settings.admin_pin), visible);
   page.SetShown(FieldOf(&house_.settings.delegate_pin), visible);
+  screen_.LayOut();
 }
 
 void Options::RestrictPages(bool admin) {
@@ -335,6 +336,7 @@ void Options::RestrictPages(bool admin) {
     FieldOf(choice).SetEnabled(admin);
   }
   screen_.settings[0].SetShown(FieldOf(&settings.prompt_for_pin), admin);
+  screen_.LayOut();
 }
 
 void Options::MoveGenre(ItemList& from, ItemList& to, const char* heading) {
