@@ -63,6 +63,8 @@ void SayAll(const Form1& form) {
   for (size_t i = 0; i < form.options.sections.size(); ++i) {
     Say("section" + std::to_string(i), form.options.sections[i]);
   }
+  Say("settings", form.options.pages);
+  for (size_t i = 0; i < 3; ++i) Say("pick" + std::to_string(i), form.options.picker.items[i]);
   Say("save_settings", form.options.save_settings);
   for (size_t i = 0; i < form.pin.keys.size(); ++i) {
     Say("pin" + std::to_string(i), form.pin.keys[i]);
