@@ -34,6 +34,19 @@ export DISPLAY
 xrandr --setmonitor '*cabinet' 1920/500x1080/280+0+0 screen >/dev/null
 xrandr --setmonitor room 1280/280x720/160+1920+0 none
 
+# A jukebox of its own in $demo with the music of a folder, and a Master that keeps its queue:
+# whatever lies in its folder is played or queued at once.
+make_jukebox() {
+  mkdir -p "$demo/skins"
+  cp app/sonotik.def "$demo/"
+  cp -r build/skins/. app/skins/. "$demo/skins/"
+  ln -s "$programs/sonotik" "$demo/sonotik"
+  ln -s "$programs/creditmodule" "$demo/creditmodule.exe"
+  "$programs/sonotik-config" --app "$demo" --audio "$1" >"$work/config"
+  printf 'Terminal \\ Master config\r\n\r\nTrue\r\nFalse\r\n' >"$demo/terminal.ini"
+  mapfile -t tracks < <(find "$1" -name '*.mp3' | sort)
+}
+
 start() {
   "$demo/sonotik" >>"$work/jukebox.log" 2>&1 &
   jukebox=$!
