@@ -1,6 +1,8 @@
 // The jukebox program.
+#include <malloc.h>
 #include <QApplication>
 #include <QScreen>
+
 #include <clocale>
 #include <cstdlib>
 #include <iostream>
@@ -87,6 +89,9 @@ int RunJukebox(const std::string& app_path) {
 }  // namespace sonotik
 
 int main(int argc, char** argv) {
+  // It runs for years, and pictures come and go: each has pages of its own and gives them back.
+  mallopt(M_MMAP_THRESHOLD, 256 << 10);
+  mallopt(M_ARENA_MAX, 2);
   // Before the toolkit may change what it was started as.
   const std::filesystem::path folder = sonotik::ProgramFolder(argv[0], std::getenv("PATH"));
   // The windows scale what they show; the toolkit's own scaling would only part their places from
