@@ -7,9 +7,11 @@
 #include <filesystem>
 
 #include "catalogue_maker.h"
+#include "desktop/form_window.h"
 #include "desktop/painter_canvas.h"
 #include "desktop/qt_machine.h"
 #include "shell/jukebox.h"
+#include "skins/cover_animation.h"
 #include "support/test_machine.h"
 
 namespace sonotik {
@@ -143,6 +145,37 @@ BENCHMARK(ScreenChange)
     ->Arg(screen::kQueue)
     ->Arg(screen::kSearch)
     ->Arg(screen::kDecades)
+    ->Unit(benchmark::kMillisecond);
+
+// A picture over the whole window, revealed in 33 steps: each paints what it newly shows.
+void AnimationStep(benchmark::State& state) {
+  NeonBench bench;
+  FormWindow window(bench.form().form, bench.pictures);
+  Panel& picture = bench.form().attract_picture;
+  picture.SetPicture(bench.folder.path() + "\\music\\0\\Cover.jpg");
+  picture.BringToFront();
+  picture.SetVisible(true);
+  window.resize(kWidth, kHeight);
+  window.show();
+  const int style = static_cast<int>(state.range(0));
+  int step = 0;
+  for (auto _ : state) {
+    if (style == kRandomStyle) {
+      picture.Invalidate();
+    } else {
+      picture.SetRegion(RevealedRegion(style, step, kCoverAnimationSteps, kWidth, kHeight));
+    }
+    step = (step + 1) % (kCoverAnimationSteps + 1);
+    const int before = window.paints();
+    while (window.paints() == before) QCoreApplication::processEvents();
+  }
+}
+BENCHMARK(AnimationStep)
+    ->ArgName("style")
+    ->Arg(0)
+    ->Arg(10)
+    ->Arg(12)
+    ->Arg(kRandomStyle)  // none: the whole panel each time
     ->Unit(benchmark::kMillisecond);
 
 // The floor: as many pixels as the window has, painted once from a picture.
