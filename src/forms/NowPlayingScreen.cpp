@@ -15,6 +15,7 @@ NowPlayingScreen::NowPlayingScreen(Panel& screen) : panel(screen) {
   AddLabel(panel, rating_caption, {836, 212, 160, 40}, 13, kMuted);
   rating_caption.SetCaption("Current Rating:");
   panel.Add(rating, {836, 256, 220, 88});
+  rating.SetStretch(2);
   AddButton(panel, rating_up, {1076, 256, 84, 88}, "+", 20);
   AddButton(panel, rating_down, {1172, 256, 84, 88}, "-", 20);
   for (Control* item : {static_cast<Control*>(&rating), static_cast<Control*>(&rating_caption),

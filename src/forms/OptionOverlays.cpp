@@ -97,17 +97,25 @@ OptionCalendar::OptionCalendar()
   AddOption(panel, month_back, {});
   AddOption(panel, month_forward, {});
   AddLabel(panel, month, {}, 12, kText, Align::kCenter, true);
+  static constexpr const char* kWeekdays[kWeekDays] = {"Su", "Mo", "Tu", "We", "Th", "Fr", "Sa"};
+  for (size_t i = 0; i < weekdays.size(); ++i) {
+    AddLabel(panel, weekdays[i], {}, 11, kMuted, Align::kCenter);
+    weekdays[i].SetCaption(kWeekdays[i]);
+  }
   for (OptionField& day : days) AddOption(panel, day, {});
 }
 
 void OptionCalendar::LayOut() {
   const Rect whole{0, 0, panel.place().width, panel.place().height};
-  const float line = (whole.height + kGap) / 7;
+  // The months' buttons, half a line of weekdays, and six weeks.
+  const float line = (whole.height + kGap) / 7.5F;
   month_back.SetPlace({0, 0, line, line - kGap});
   month_forward.SetPlace({whole.width - line, 0, line, line - kGap});
   month.SetPlace({line, 0, whole.width - 2 * line, line - kGap});
-  const Rect weeks{0, line, whole.width, whole.height - line};
-  for (size_t i = 0; i < days.size(); ++i) days[i].SetPlace(Cell(weeks, 7, 6, i));
+  const Rect heads{0, line, whole.width, line / 2};
+  for (size_t i = 0; i < weekdays.size(); ++i) weekdays[i].SetPlace(Cell(heads, kWeekDays, 1, i));
+  const Rect weeks{0, heads.bottom(), whole.width, whole.height - heads.bottom()};
+  for (size_t i = 0; i < days.size(); ++i) days[i].SetPlace(Cell(weeks, kWeekDays, 6, i));
 }
 
 }  // namespace sonotik

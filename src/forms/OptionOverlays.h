@@ -58,7 +58,8 @@ struct OptionKeyboard {
   std::array<OptionField, 6> commands;  // by KeyboardCommand
 };
 
-inline constexpr size_t kCalendarDays = 42;
+inline constexpr size_t kWeekDays = 7;
+inline constexpr size_t kCalendarDays = 6 * kWeekDays;
 
 // A month of the calendar, in weeks from Sunday on.
 struct OptionCalendar {
@@ -69,6 +70,7 @@ struct OptionCalendar {
   OptionField month_back;
   OptionField month_forward;
   Label month;  // "January 2024"
+  std::array<Label, kWeekDays> weekdays;
   std::array<OptionField, kCalendarDays> days;
 };
 

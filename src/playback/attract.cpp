@@ -19,6 +19,8 @@ void Attract::Change() {
     Animate(picture, 0);
     Animate(now_playing, 1);
     picture.SetVisible(false);
+    // One that began meanwhile.
+    form1_.RaiseFact();
     return;
   }
   files_.SetFolder(settings_.attract_path);

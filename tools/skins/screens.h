@@ -10,6 +10,9 @@ namespace sonotik::skins {
 // The whole skin, in a folder of its name.
 void Make(const Design& design, const QString& folder);
 
+// The pictures of a track's rating, which no skin brings.
+void DrawThumbs(const QString& folder);
+
 void LayOutFrame(Sheet& sheet);   // menu bar, player panel, window, album view, letters, genre bar
 void LayOutLists(Sheet& sheet);   // track list, queue, top 20, history
 void LayOutSearch(Sheet& sheet);  // search, its choice and results, genres

@@ -70,6 +70,7 @@ void SayAll(const Form1& form) {
     Say("pin" + std::to_string(i), form.pin.keys[i]);
   }
   Say("queue_back", form.queue.back);
+  Say("rating_up", form.now_playing.rating_up);
   Say("full_screen", form.now_playing.full_screen);
   for (size_t i = 0; i < form.search_choice.modes.size(); ++i) {
     Say("mode" + std::to_string(i), form.search_choice.modes[i]);
