@@ -35,6 +35,7 @@ TEST_F(ConfigWindowTest, BuildsFromItsFoldersTellsWhatItCouldNotReadAndRemembers
     BuildToTheEnd(window);
     EXPECT_THAT(window.summary().toStdString(), testing::HasSubstr("Add a folder"));
     window.AddFolder(CatalogueKind::kVideo, Folder("films"));
+    window.AddFolder(CatalogueKind::kVideo, Folder("films"));
     window.AddFolder(CatalogueKind::kAudio, Folder("gone"));
     BuildToTheEnd(window);
     EXPECT_THAT(window.summary().toStdString(), testing::HasSubstr("1 track"));

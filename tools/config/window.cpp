@@ -15,6 +15,9 @@ namespace {
 
 constexpr int64_t kProgressStep = 100;  // milliseconds
 
+// What the counts of the three kinds and the last line take, so that nothing moves under a finger.
+constexpr int kSummaryLines = 4;
+
 constexpr const char* kTitles[] = {"Audio", "Video", "Karaoke"};
 
 constexpr char kLook[] =
@@ -22,10 +25,14 @@ constexpr char kLook[] =
     "QListWidget, QProgressBar { background: #262b44; border: 0; border-radius: 6px; padding: 6px; "
     "}"
     "QProgressBar { text-align: center; min-height: 36px; }"
-    "QProgressBar::chunk { background: #c98a2c; border-radius: 6px; }"
+    "QProgressBar::chunk { background: #8a5f1e; border-radius: 6px; }"
     "QPushButton { background: #343c60; border: 0; border-radius: 8px; min-height: 48px;"
     " padding: 0 22px; }"
     "QPushButton:disabled { color: #6c7392; }"
+    "QListWidget::item { padding: 4px; }"
+    "QListWidget::item:selected { background: #c98a2c; color: #1c1408; }"
+    "QScrollBar { background: #262b44; }"
+    "QScrollBar::handle { background: #4a5480; border-radius: 4px; min-height: 32px; }"
     "#build { background: #ffb84d; color: #1c1408; font-weight: bold; }"
     "#title { color: #ffb84d; font-weight: bold; }";
 
@@ -51,6 +58,8 @@ ConfigWindow::ConfigWindow(std::filesystem::path app) : app_(std::move(app)) {
   setStyleSheet(kLook);
   resize(1000, 720);
   auto* grid = new QGridLayout(this);
+  grid->setContentsMargins(20, 16, 20, 20);
+  grid->setSpacing(12);
   for (int kind = 0; kind < 3; ++kind) {
     QListWidget& list = lists_[static_cast<size_t>(kind)];
     auto* title = new QLabel(kTitles[kind]);
@@ -81,7 +90,14 @@ ConfigWindow::ConfigWindow(std::filesystem::path app) : app_(std::move(app)) {
   stop_.setEnabled(false);
   bar_.setRange(0, 1);
   bar_.setFormat("");
+  ensurePolished();
   summary_.setWordWrap(true);
+  summary_.setAlignment(Qt::AlignTop);
+  summary_.ensurePolished();
+  summary_.setMinimumHeight(kSummaryLines * summary_.fontMetrics().lineSpacing());
+  summary_.setText("Add the folders that hold your media, then build the catalogue.");
+  problems_.setWordWrap(true);
+  problems_.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   grid->addWidget(&build_, 3, 0, 1, 2);
   grid->addWidget(&stop_, 3, 2);
   grid->addWidget(&bar_, 4, 0, 1, 3);
@@ -100,7 +116,9 @@ ConfigWindow::~ConfigWindow() {
 }
 
 void ConfigWindow::AddFolder(CatalogueKind kind, const QString& folder) {
-  lists_[static_cast<size_t>(kind)].addItem(folder);
+  QListWidget& list = lists_[static_cast<size_t>(kind)];
+  if (!list.findItems(folder, Qt::MatchExactly).isEmpty()) return;
+  list.addItem(folder);
   Remember();
 }
 
@@ -135,6 +153,7 @@ void ConfigWindow::Build() {
   stop_.setEnabled(true);
   problems_.clear();
   summary_.clear();
+  bar_.setFormat("");
   // The window lives on while the files are read; all that it shows comes back to its own thread.
   worker_ = std::thread([this, request = std::move(request)] {
     BuildHooks hooks;
@@ -179,14 +198,14 @@ void ConfigWindow::Finish(const BuildReport& report, const std::string& failure)
   stop_.setEnabled(false);
   bar_.setRange(0, 1);
   bar_.setValue(failure.empty() && !report.stopped ? 1 : 0);
-  bar_.setFormat("");
+  bar_.setFormat(!failure.empty() ? "Failed" : report.stopped ? "Stopped" : "Done");
   for (const Problem& problem : report.problems) {
     problems_.addItem(Shown(problem.path + ": " + problem.reason));
   }
   // The problems stand in their list; the counts come behind them.
   std::string text = SummaryText(report);
   for (size_t i = 0; i < report.problems.size(); ++i) text.erase(0, text.find('\n') + 1);
-  summary_.setText(failure.empty() ? QString::fromStdString(text) : Shown(failure));
+  summary_.setText(failure.empty() ? QString::fromStdString(text).trimmed() : Shown(failure));
 }
 
 int RunWindow(int& argc, char** argv, const std::filesystem::path& app) {
