@@ -119,6 +119,7 @@ class TestEvents : public EventLoop {
   // Runs when the screen is painted inside a handler.
   std::function<void()> on_paint = [] {};
   int pumps = 0;
+  int waited = 0;  // milliseconds
   bool left = false;
   int exit_status = -1;
 
@@ -127,7 +128,10 @@ class TestEvents : public EventLoop {
     on_pump();
   }
   void PaintNow() override { on_paint(); }
-  void WaitForEvents(int) override { PumpEvents(); }
+  void WaitForEvents(int milliseconds) override {
+    waited += milliseconds;
+    PumpEvents();
+  }
   void Leave(int status) override {
     left = true;
     exit_status = status;
