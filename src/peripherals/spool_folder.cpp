@@ -32,13 +32,13 @@ std::optional<SpooledSelection> SpoolFolder::Read() {
   for (int i = 0; i < spool_files_.count(); ++i) {
     served_ = spool_files_.PathAt(i);
     const FileStamp stamp = served_stamp_ = StampOf(served_);
-    // Just begun, no file at all, or none of ours.
-    if (stamp.size <= 0 || stamp.size > kLongestSpool || !FileExists(served_)) continue;
+    if (!FileExists(served_)) continue;
     const auto waits = waiting_.find(served_);
     if (waits != waiting_.end() && waits->second.served && waits->second.stamp == stamp) continue;
     std::string text;
     try {
-      text = ReadWholeFile(served_);
+      // Something without a size may be a pipe, whose reading would not return.
+      if (stamp.size > 0 && stamp.size <= kLongestSpool) text = ReadWholeFile(served_);
     } catch (const RuntimeFailure&) {
       // A share may be away for a moment: it counts as one that isn't whole yet.
     }

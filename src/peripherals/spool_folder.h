@@ -27,9 +27,9 @@ class SpoolFolder {
   static constexpr int kPatience = 1000;
   // The first spool file, for Remove to delete once it is served. Of two selections in one file the
   // first alone is served; that is meant. A file whose third line hasn't ended is being written and
-  // is passed over, until it has stood still for kPatience looks. One that is no selection goes out
-  // of the way, its name and ".bad", or nothing behind it would ever be served, and throws
-  // RuntimeFailure.
+  // is passed over, until it has stood still for kPatience looks; so is one that is far too long.
+  // One that is no selection goes out of the way, its name and ".bad", or nothing behind it would
+  // ever be served, and throws RuntimeFailure.
   std::optional<SpooledSelection> Read();
   void Remove();
 

@@ -287,17 +287,20 @@ TEST_F(SpoolTest, HalfWrittenFilesWaitUntilTheyAreWholeAndKeepNoOtherWaiting) {
   folder.Write("B.QUE", " 0 \r\n 0 \r\n\\m\\2.wav");
   folder.Write("C.QUE", " 0 \r\n");
   folder.Write("D.QUE", " 0 \r\n 0 \r\n\\m\\4.wav\r\n");
+  folder.Write("E.QUE", "");
+  folder.Write("F.QUE", " 0 \r\n 0 \r\n" + std::string(100000, 'x') + "\r\n");
   Poll(SpoolFolder::kPatience - 1);
   EXPECT_EQ(house().queue.count(), 1);
   EXPECT_EQ(Queued(0), "\\m\\4.wav");
   folder.Write("A.QUE", " 0 \r\n 0 \r\n\\m\\1.wav\r\n");
-  // The first is whole now, the second has stood still, the third never was a selection.
-  Poll(3);
+  // The first is whole now, the second has stood still, the others never were selections.
+  Poll(6);
   ASSERT_EQ(house().queue.count(), 3);
   EXPECT_EQ(Queued(1), "\\m\\1.wav");
   EXPECT_EQ(Queued(2), "\\m\\2.wav");
   EXPECT_EQ(folder.Read("C.QUE.bad"), " 0 \r\n");
   EXPECT_FALSE(folder.Has("C.QUE"));
+  EXPECT_TRUE(folder.Has("E.QUE.bad") && folder.Has("F.QUE.bad"));
 }
 
 TEST_F(SpoolTest, AServedFileThatCanNotBeDeletedIsServedOnce) {
