@@ -138,7 +138,9 @@ bool SerialLine::OpenDevice(const std::string& path) {
   termios mode{};
   if (::tcgetattr(device_, &mode) == 0) {
     const auto wanted = WithLineSettings(mode, settings_);
-    if (wanted && ::tcsetattr(device_, TCSANOW, &*wanted) == 0) return true;
+    // A device that lacks one of them takes the others, and refuses when no other is left to
+    // change.
+    if (wanted && (::tcsetattr(device_, TCSANOW, &*wanted) == 0 || errno == EINVAL)) return true;
   }
   const int error = errno;
   CloseDevice();

@@ -88,21 +88,24 @@ class SerialLineTest : public testing::Test {
   int keep_alive = -1;
 };
 
-TEST_F(SerialLineTest, EveryByteOfAFrameArrivesAsWritten) {
-  SerialLine line(app_path);
+TEST_F(SerialLineTest, EveryByteOfEachFrameArrivesAsWrittenAlsoWhereTheLineKnowsNoParity) {
   SignSettings settings(app_path);
   settings.port_settings = "4800,E,7,1";
   settings.port = settings.model = 1;
   settings.enabled = true;
-  LedSign led(settings, line);
-  led.CommitChanges();
-  led.ShowTrack("\r\n\x03\x11\xFF", "\x13 \x04");
   std::string expected = "\x00\xFF\xFF\x00\x0B\x00"s;
   for (int code = 1; code <= 127; ++code) expected += static_cast<char>(code);
   expected +=
       "\xFF\x01\x30\x31\xEF\xB7\xEF\xA2\r\n\x03\x11\xFF\xEF\xB1\xEF\xA0\xFF\xEF\xB0\xEF\xA2"
       "\x13 \x04\xEF\xB1\xEF\xA0\xFF\xFF\x00"s;
-  EXPECT_EQ(Read(expected.size()), expected);
+  // The second one finds the line as the first has set it.
+  for (int message = 1; message <= 2; ++message) {
+    SerialLine line(app_path);
+    LedSign led(settings, line);
+    led.CommitChanges();
+    led.ShowTrack("\r\n\x03\x11\xFF", "\x13 \x04");
+    EXPECT_EQ(Read(expected.size()), expected) << message;
+  }
 }
 
 TEST_F(SerialLineTest, MoreThanTheLineHoldsGoesOutByItselfInPieces) {
