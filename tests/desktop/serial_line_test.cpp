@@ -108,29 +108,22 @@ TEST_F(SerialLineTest, EveryByteOfEachFrameArrivesAsWrittenAlsoWhereTheLineKnows
   }
 }
 
-TEST_F(SerialLineTest, MoreThanTheLineHoldsGoesOutByItselfInPieces) {
-  SerialLine line(app_path);
-  line.SetCommPort(2);
+TEST_F(SerialLineTest, MoreThanTheLineHoldsGoesOutByItselfInPiecesAndTheLastWhenTheProgramEnds) {
+  auto line = std::make_unique<SerialLine>(app_path);
+  line->SetCommPort(2);
   std::string long_text;
   for (int i = 0; long_text.size() < 60000; ++i) long_text += std::to_string(i) + ' ';
-  line.Open();
-  line.Output(long_text);
-  line.Close();
+  const auto send = [&line](const std::string& text) {
+    line->Open();
+    line->Output(text);
+    line->Close();
+  };
+  send(long_text);
   // The next message goes behind what is still on its way.
-  line.Open();
-  line.Output("end");
-  line.Close();
+  send("end");
   EXPECT_EQ(Read(long_text.size() + 3), long_text + "end");
-}
-
-TEST_F(SerialLineTest, ALastMessageStillGoesOutWhenTheProgramEnds) {
-  {
-    SerialLine line(app_path);
-    line.SetCommPort(2);
-    line.Open();
-    line.Output("bye");
-    line.Close();
-  }
+  send("bye");
+  line.reset();
   EXPECT_EQ(Read(3), "bye");
 }
 

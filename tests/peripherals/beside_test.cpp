@@ -13,8 +13,6 @@ class BesideTest : public JukeboxTest {
     settings.enable_mic_on_videos = true;
     settings.use_visualisations = true;
     WriteDefaults();
-    folder.Write("mute.txt", "mute -a \"b, c\"\r\nnot this\r\n");
-    folder.Write("unmute.txt", "open");
     song = WriteTrack("Day", "1.wav");
     film = WriteTrack("Day", "2.mpg");
   }
@@ -31,12 +29,22 @@ TEST_F(BesideTest, TheMicrophoneFollowsTheKindOfTrackAndTheLineIsNeverOpenedAgai
   Start();
   const struct {
     const std::string& path;
+    const char *script, *text;
     Calls mixer, commands;
   } cases[] = {
-      {song, {"line 1", "mic 1"}, {"mute -a \"b, c\""}},
-      {film, {"line 1", "mic 0"}, {"open"}},
+      {song, "mute.txt", nullptr, {"line 1", "mic 1"}, {}},
+      {song,
+       "mute.txt",
+       "mute -a \"b, c\"\r\nnot this\r\n",
+       {"line 1", "mic 1"},
+       {"mute -a \"b, c\""}},
+      {song, "mute.txt", "", {"line 1", "mic 1"}, {}},
+      {song, "mute.txt", "\r\nnot this", {"line 1", "mic 1"}, {}},
+      {film, "unmute.txt", nullptr, {"line 1", "mic 0"}, {}},
+      {film, "unmute.txt", "open", {"line 1", "mic 0"}, {"open"}},
   };
   for (const auto& each : cases) {
+    if (each.text != nullptr) folder.Write(each.script, each.text);
     Play(each.path);
     EXPECT_EQ(machine.mixer.calls, each.mixer) << each.path;
     EXPECT_EQ(machine.processes.started, each.commands) << each.path;
@@ -45,19 +53,6 @@ TEST_F(BesideTest, TheMicrophoneFollowsTheKindOfTrackAndTheLineIsNeverOpenedAgai
   Advance(40);
   jukebox->shutdown.power_down();
   EXPECT_EQ(machine.mixer.calls, Calls{}) << "neither the end of a track nor of the program";
-}
-
-TEST_F(BesideTest, AScriptThatIsMissingOrEmptyIsNone) {
-  Start();
-  for (const char* script : {"", "\r\n", "\nnot this"}) {
-    folder.Write("mute.txt", script);
-    Play(song);
-    EXPECT_EQ(machine.processes.started, Calls{}) << script;
-  }
-  std::filesystem::remove(folder.native() / "unmute.txt");
-  Play(film);
-  EXPECT_EQ(machine.processes.started, Calls{});
-  EXPECT_EQ(machine.mixer.calls, (Calls{"line 1", "mic 0"}));
 }
 
 TEST_F(BesideTest, TheVisualisationRunsBesideSongsUntilAFilmSilenceOrPowerDown) {
@@ -79,15 +74,11 @@ TEST_F(BesideTest, TheVisualisationRunsBesideSongsUntilAFilmSilenceOrPowerDown) 
   Play(song);
   EXPECT_EQ(machine.visualiser.calls, Calls{}) << "an empty line is none";
   machine.visualiser.running = true;
+  jukebox->shutdown.TimedExit();
+  EXPECT_EQ(machine.visualiser.calls, Calls{}) << "a timed exit leaves it";
+  house().state.shutting_down = false;
   jukebox->shutdown.power_down();
   EXPECT_EQ(machine.visualiser.calls, Calls{"close"});
-}
-
-TEST_F(BesideTest, ATimedExitLeavesTheVisualisationRunning) {
-  Start();
-  Play(song);
-  jukebox->shutdown.TimedExit();
-  EXPECT_TRUE(machine.visualiser.running);
 }
 
 }  // namespace

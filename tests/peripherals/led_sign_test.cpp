@@ -38,21 +38,23 @@ class SignTest : public JukeboxTest {
   Calls Sent() { return std::exchange(machine.sign_port.calls, {}); }
 };
 
-TEST_F(SignTest, EachModelGetsItsFrameAndTheBadgeNone) {
+TEST_F(SignTest, EachModelGetsItsFrameAndTheBadgeOrASignSwitchedOffNone) {
   const std::string dawn =
       WriteTrack("Day", "1.wav", "Ada & Co", "Z\xC3\xBCrich \xE2\x82\xAC\xC4\x80");
   const struct {
-    int model;
+    int model, enabled;
     Calls track, nothing;
   } cases[] = {
       {0,
+       1,
        {"open", Betabrite("Ada & Co - Z\xFCrich \x80?"), "close"},
        {"open", Betabrite(""), "close"}},
-      {1, BigBoard("Ada & Co", "Z\xFCrich \x80?"), BigBoard("", "")},
-      {2, {}, {}},
+      {1, 1, BigBoard("Ada & Co", "Z\xFCrich \x80?"), BigBoard("", "")},
+      {2, 1, {}, {}},
+      {0, 0, {}, {}},
   };
   for (const auto& each : cases) {
-    WriteSign(each.model);
+    WriteSign(each.model, each.enabled);
     Start();
     EXPECT_EQ(machine.sign_port.settings, "4800,E,7,1");
     EXPECT_EQ(machine.sign_port.number, 3);
@@ -60,25 +62,13 @@ TEST_F(SignTest, EachModelGetsItsFrameAndTheBadgeNone) {
     EXPECT_EQ(Sent(), each.track) << each.model;
     Advance(35);
     EXPECT_EQ(Sent(), each.nothing) << "when nothing plays any more";
+    jukebox->shutdown.TimedExit();
+    EXPECT_EQ(Sent(), Calls{}) << "a timed exit leaves the text standing";
+    house().state.shutting_down = false;
     jukebox->shutdown.power_down();
     EXPECT_EQ(Sent(), each.nothing) << "at the end";
     jukebox.reset();
   }
-}
-
-TEST_F(SignTest, SwitchedOffItNeverOpensThePortAndATimedExitLeavesTheTextStanding) {
-  const std::string dawn = WriteTrack("Day", "1.wav");
-  WriteSign(0, 0);
-  Start();
-  house().selection.Choose(dawn, PlayWay::kPlayNow);
-  Advance(35);
-  jukebox->shutdown.power_down();
-  EXPECT_EQ(Sent(), Calls{});
-  jukebox.reset();
-  WriteSign(0);
-  Start();
-  jukebox->shutdown.TimedExit();
-  EXPECT_EQ(Sent(), Calls{});
 }
 
 TEST_F(SignTest, AFactTakesTheFirstLineAloneAndGivesItBackToTheTrack) {

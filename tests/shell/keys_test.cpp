@@ -283,16 +283,20 @@ class SpoolTest : public KeysTest {
 };
 
 TEST_F(SpoolTest, HalfWrittenFilesWaitUntilTheyAreWholeAndKeepNoOtherWaiting) {
-  folder.Write("A.QUE", " 0 \r\n 0 \r\n\\m\\1.w");
+  const std::string whole = " 0 \r\n 0 \r\n\\m\\1.wav\r\n";
   folder.Write("B.QUE", " 0 \r\n 0 \r\n\\m\\2.wav");
   folder.Write("C.QUE", " 0 \r\n");
   folder.Write("D.QUE", " 0 \r\n 0 \r\n\\m\\4.wav\r\n");
   folder.Write("E.QUE", "");
   folder.Write("F.QUE", " 0 \r\n 0 \r\n" + std::string(100000, 'x') + "\r\n");
-  Poll(SpoolFolder::kPatience - 1);
+  // The first one grows, byte by byte.
+  for (int n = 0; n < SpoolFolder::kPatience - 1; ++n) {
+    folder.Write("A.QUE", whole.substr(0, static_cast<size_t>(n) % whole.size()));
+    Poll(1);
+  }
   EXPECT_EQ(house().queue.count(), 1);
   EXPECT_EQ(Queued(0), "\\m\\4.wav");
-  folder.Write("A.QUE", " 0 \r\n 0 \r\n\\m\\1.wav\r\n");
+  folder.Write("A.QUE", whole);
   // The first is whole now, the second has stood still, the others never were selections.
   Poll(6);
   ASSERT_EQ(house().queue.count(), 3);

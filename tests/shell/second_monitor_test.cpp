@@ -102,6 +102,12 @@ TEST_F(SecondMonitorTest, StandsOnItsMonitorOrOnTheFirstUntilThatIsThere) {
     EXPECT_EQ(result, StartUpResult::kRunning);
     EXPECT_TRUE(machine.messages.shown.empty()) << "a monitor that is off is no damaged file";
     EXPECT_EQ(machine.displays.second_area, c.area) << c.number;
+    const Form3& form3 = house().form3;
+    for (const Panel* bar : {&form3.ticker, &form3.facts}) {
+      EXPECT_EQ(bar->place().bottom(), static_cast<float>(c.area.height));
+      EXPECT_EQ(bar->place().width, static_cast<float>(c.area.width));
+    }
+    EXPECT_EQ(form3.fact.place().right(), form3.facts_inner.place().left);
     EXPECT_TRUE(machine.displays.second_shown);
     EXPECT_EQ(house().settings.second_monitor, c.number);
     jukebox.reset();
@@ -187,27 +193,24 @@ TEST_F(SecondMonitorTest, FullScreenGoesOnAndOffInItsSteps) {
   folder.Write("skins/Plain/resolution.ini", "a\nb\nc\n1024\n768\n");
   StartWithSettings();
   auto& calls = machine.displays.calls;
-  const auto enabled = [this] { return house().form2.style[0].enabled; };
-  calls.clear();
-  house().settings.full_screen = true;
+  const auto switch_it = [&](bool on) {
+    calls.clear();
+    house().settings.full_screen = on;
+    jukebox->effects.displays.SwitchFullScreen();
+    EXPECT_EQ(house().form2.style[0].enabled, on);
+  };
   machine.displays.second_area = {};
-  jukebox->effects.displays.SwitchFullScreen();
+  switch_it(true);
   EXPECT_THAT(calls,
               ElementsAre("ChangeResolution 1024 768", "FitWindow 1 0", "SetTaskbarVisible 0 0"));
   EXPECT_EQ(machine.displays.second_area, kRoom) << "fitted again";
-  EXPECT_TRUE(enabled());
-  calls.clear();
-  house().settings.full_screen = false;
-  jukebox->effects.displays.SwitchFullScreen();
+  switch_it(false);
   EXPECT_THAT(calls,
               ElementsAre("RestoreResolution 0 0", "FitWindow 0 0", "SetTaskbarVisible 1 0"));
-  EXPECT_FALSE(enabled());
   // A skin that doesn't tell its size leaves the mode, and whatever was changed is given back.
   std::filesystem::remove(folder.native() / "skins/Plain/resolution.ini");
   jukebox->effects.ApplySkin();
-  calls.clear();
-  house().settings.full_screen = true;
-  jukebox->effects.displays.SwitchFullScreen();
+  switch_it(true);
   EXPECT_THAT(calls, ElementsAre("FitWindow 1 0", "SetTaskbarVisible 0 0"));
   calls.clear();
   jukebox->LeaveInOrder();
@@ -225,23 +228,6 @@ TEST_F(SecondMonitorTest, StartsInFullScreenWithoutAFrameWhateverTheSkinTells) {
   EXPECT_TRUE(flag(StyleFlag::ToolWindow)) << "no matter of full screen";
   EXPECT_TRUE(flag(StyleFlag::TopMost));
   EXPECT_THAT(machine.displays.calls, ElementsAre("SetTaskbarVisible 0 0"));
-}
-
-TEST(Form3Layout, KeepsBothBarsAtTheBottomWhateverTheMonitor) {
-  Form3 form3;
-  for (const auto& [width, height] :
-       {std::pair{1920, 1080}, {640, 480}, {3840, 2160}, {1080, 1920}, {1, 1}, {0, 0}}) {
-    form3.Resize(width, height);
-    const Rect inner = form3.form.place();
-    EXPECT_EQ(inner, Rect({0, 0, static_cast<float>(width), static_cast<float>(height)}));
-    for (const Panel* bar : {&form3.ticker, &form3.facts}) {
-      EXPECT_EQ(bar->place().bottom(), inner.height);
-      EXPECT_EQ(bar->place().width, inner.width);
-    }
-    if (width < 640) continue;
-    EXPECT_EQ(form3.facts_inner.place().right(), inner.width);
-    EXPECT_EQ(form3.fact.place().width, inner.width - form3.facts_inner.place().width);
-  }
 }
 
 }  // namespace
