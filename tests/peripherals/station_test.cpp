@@ -12,9 +12,21 @@ namespace {
 class StationTest : public JukeboxTest {
  protected:
   StationTest() { folder.Write("terminal.ini", "x\r\n\r\nTrue\r\nFalse\r\n"); }
-  void Poll() {
-    machine.clock.Add(10);
-    machine.timers.FireDue();
+  void Poll(int times = 1) {
+    for (int i = 0; i < times; ++i) {
+      machine.clock.Add(10);
+      machine.timers.FireDue();
+    }
+  }
+  // Nothing leaves the queue.
+  void StartPaused() {
+    Start();
+    house().playback.paused = true;
+  }
+  std::string Queued(int index) { return house().queue.path(index); }
+  // A Terminal whose box holds this.
+  void BecomeTerminal(const std::string& box) {
+    folder.Write("terminal.ini", "x\r\n" + box + "\r\nFalse\r\nTrue\r\n");
   }
   TempFolder terminal_folder;
 };
@@ -56,8 +68,7 @@ TEST_F(StationTest, ATerminalsSelectionPlaysOnTheMasterWithinASecond) {
 }
 
 TEST_F(StationTest, AHundredSelectionsOfFourTerminalsAtOnceArriveOnceEachAndWhole) {
-  Start();
-  house().playback.paused = true;  // nothing leaves the queue
+  StartPaused();
   std::set<std::string> sent;
   for (int i = 0; i < 100; ++i) sent.insert("\\m\\" + std::to_string(i) + ".wav");
   std::vector<std::thread> terminals;
@@ -80,7 +91,7 @@ TEST_F(StationTest, AHundredSelectionsOfFourTerminalsAtOnceArriveOnceEachAndWhol
   });
   while (!written) Poll();
   last.join();
-  for (int i = 0; i < 101; ++i) Poll();
+  Poll(101);
   std::set<std::string> arrived;
   for (int i = 0; i < house().queue.count(); ++i) arrived.insert(house().queue.path(i));
   EXPECT_EQ(house().queue.count(), 100);
@@ -89,17 +100,21 @@ TEST_F(StationTest, AHundredSelectionsOfFourTerminalsAtOnceArriveOnceEachAndWhol
 }
 
 TEST_F(StationTest, AFolderThatDoesNotAnswerStallsNobodyAndLosesNothing) {
-  Start();
-  house().playback.paused = true;
-  folder.Write("Queue.QUE", " 0 \r\n 0 \r\n\\m\\1.wav\r\n");
+  StartPaused();
+  for (const std::string name : {"1", "2"}) {
+    folder.Write("Queue " + name + ".QUE", " 0 \r\n 0 \r\n\\m\\" + name + ".wav\r\n");
+  }
   Outage outage(house().share);
   house().credits.Receive("5");
-  for (int i = 0; i < 100; ++i) Poll();
+  Poll(100);
   EXPECT_EQ(house().queue.count(), 0);
   EXPECT_EQ(house().credits.count(), 5);
   outage.End();
   Poll();
-  EXPECT_EQ(house().queue.path(0), "\\m\\1.wav");
+  EXPECT_EQ(Queued(0), "\\m\\1.wav");
+  EXPECT_EQ(Queued(1), "") << "one file a poll";
+  Poll();
+  EXPECT_EQ(Queued(1), "\\m\\2.wav");
   EXPECT_EQ(house().boundary.failures(), 0);
 }
 
@@ -134,11 +149,37 @@ TEST_F(StationTest, WhatATerminalCouldNotHandOverIsPaidBackAndNeverArrivesLater)
   EXPECT_EQ(lying, handed_over);
 }
 
-TEST_F(StationTest, WithAnEmptyBoxTheWorkingFolderIsTheSharedOne) {
-  folder.Write("terminal.ini", "x\r\n\r\nFalse\r\nTrue\r\n");
+TEST_F(StationTest, ATerminalHandsOverIntoItsBoxOrTheWorkingFolderAndPlaysNothing) {
+  folder.Write("shared/x", "");
+  const std::string song = WriteTrack("Day", "1.wav");
+  for (const std::string place : {"shared/", ""}) {
+    BecomeTerminal(place.empty() ? "" : folder.path() + "\\shared\\");
+    Start();
+    house().selection.Choose("\\m\\1.wav", PlayWay::kPlayNext);
+    house().selection.Choose(song, PlayWay::kPlayNow);
+    EXPECT_EQ(folder.Read(place + "Queue.QUE"), " 0 \r\n 1 \r\n\\m\\1.wav\r\n");
+    EXPECT_EQ(folder.Read(place + "Queue 1.QUE"), " 1 \r\n 0 \r\n" + song + "\r\n");
+    EXPECT_EQ(house().queue.count(), 0);
+    EXPECT_EQ(machine.player.file, "");
+    EXPECT_TRUE(folder.Has("queue.upl"));
+    jukebox.reset();
+  }
+}
+
+TEST_F(StationTest, ATerminalTakesThePriceAndGivesItBackWhenItsShareIsGone) {
+  settings.enable_credit_mode = true;
+  WriteDefaults();
+  folder.Write("cost.dat", " 1 \r\n 1 \r\n 1 \r\n 1 \r\n 1 \r\n 1 \r\n 1 \r\n 1 \r\n 1 \r\n");
+  BecomeTerminal(folder.path() + "\\shared\\");
   Start();
-  house().selection.Choose("\\m\\1.wav", PlayWay::kAddToQueue);
-  EXPECT_EQ(folder.Read("Queue.QUE"), " 0 \r\n 0 \r\n\\m\\1.wav\r\n");
+  house().credits.Receive("5");
+  jukebox->navigation.Choose("\\m\\1.wav", PlayWay::kAddToQueue);
+  EXPECT_EQ(form().credits.caption(), "CREDITS:  5");
+  EXPECT_EQ(house().boundary.failures(), 1);
+  folder.Write("shared/x", "");
+  jukebox->navigation.Choose("\\m\\1.wav", PlayWay::kAddToQueue);
+  EXPECT_EQ(form().credits.caption(), "CREDITS:  3");
+  EXPECT_TRUE(folder.Has("shared/Queue.QUE"));
 }
 
 TEST_F(StationTest, ADamagedTerminalFileLeavesTheStationAlone) {
@@ -182,12 +223,65 @@ TEST_F(StationTest, SpoolFilesOfAnyBytesStopNothing) {
   for (const auto& each : cases) {
     folder.Write("Queue " + std::to_string(++n) + ".QUE", each.flags + "\r\n" + each.path + "\r\n");
   }
+  std::filesystem::create_symlink("gone", folder.native() / "A.que");
+  folder.Write("Queue 91.QUE", "rubbish\r\n\r\n\r\n");
+  folder.Write("Queue 92.que", " 0 \r\n 0 \r\n  \r\n");
   const std::string last = WriteTrack("Day", "1.wav");
-  folder.Write("Queue.QUE", " 1 \r\n 0 \r\n" + last + "\r\n");
-  for (int i = 0; i < 12; ++i) Poll();
+  folder.Write("Queue.QUE", " 1 \r\n 0 \r\n" + last + "\r\n 1 \r\n 0 \r\n\\m\\second.wav\r\n");
+  Poll(15);
   EXPECT_EQ(machine.player.file, last);
   EXPECT_FALSE(folder.Has("Queue.QUE"));
   EXPECT_EQ(house().playback.play_now_flag, 0);
+}
+
+TEST_F(StationTest, HalfWrittenFilesWaitUntilTheyAreWholeAndKeepNoOtherWaiting) {
+  StartPaused();
+  const std::string whole = " 0 \r\n 0 \r\n\\m\\1.wav\r\n";
+  folder.Write("B.QUE", " 0 \r\n 0 \r\n\\m\\2.wav");
+  folder.Write("C.QUE", " 0 \r\n");
+  folder.Write("D.QUE", " 0 \r\n 0 \r\n\\m\\4.wav\r\n");
+  folder.Write("E.QUE", "");
+  folder.Write("F.QUE", " 0 \r\n 0 \r\n" + std::string(100000, 'x') + "\r\n");
+  // The first one grows, byte by byte.
+  for (int n = 0; n < SpoolFolder::kPatience - 1; ++n) {
+    folder.Write("A.QUE", whole.substr(0, static_cast<size_t>(n) % whole.size()));
+    Poll();
+  }
+  EXPECT_EQ(house().queue.count(), 1);
+  EXPECT_EQ(Queued(0), "\\m\\4.wav");
+  folder.Write("A.QUE", whole);
+  // The first is whole now, the second has stood still, the others never were selections.
+  Poll(6);
+  ASSERT_EQ(house().queue.count(), 3);
+  EXPECT_EQ(Queued(1), "\\m\\1.wav");
+  EXPECT_EQ(Queued(2), "\\m\\2.wav");
+  EXPECT_EQ(folder.Read("C.QUE.bad"), " 0 \r\n");
+  EXPECT_FALSE(folder.Has("C.QUE"));
+  EXPECT_TRUE(folder.Has("E.QUE.bad") && folder.Has("F.QUE.bad"));
+}
+
+TEST_F(StationTest, AServedFileThatCanNotBeDeletedIsServedOnce) {
+  namespace fs = std::filesystem;
+  StartPaused();
+  const fs::path file = folder.native() / "A.QUE";
+  const fs::path aside = folder.native() / "aside";
+  folder.Write("A.QUE", " 0 \r\n 0 \r\n\\m\\1.wav\r\n");
+  ASSERT_TRUE(house().network.ReadSpool());
+  // A folder with something in it can't be deleted.
+  fs::rename(file, aside);
+  folder.Write("A.QUE/x", "");
+  EXPECT_THROW(house().network.RemoveSpool(), RuntimeFailure);
+  fs::remove_all(file);
+  fs::rename(aside, file);
+  EXPECT_FALSE(house().network.ReadSpool());
+  folder.Write("B.QUE", " 0 \r\n 0 \r\n\\m\\2.wav\r\n");
+  Poll(2);
+  EXPECT_EQ(house().queue.count(), 1);
+  EXPECT_FALSE(house().network.ReadSpool());
+  // Written anew it is another selection.
+  folder.Write("A.QUE", " 0 \r\n 0 \r\n\\m\\11.wav\r\n");
+  Poll();
+  EXPECT_EQ(Queued(1), "\\m\\11.wav");
 }
 
 }  // namespace

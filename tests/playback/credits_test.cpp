@@ -150,16 +150,6 @@ TEST_F(CreditsTest, WithSomeCreditsInHandATouchBesideTheButtonsLeavesNothing) {
   EXPECT_TRUE(form().play_options.panel.visible());
 }
 
-TEST_F(CreditsTest, ATerminalTakesThePriceOfWhatItHandsOver) {
-  folder.Write("shared/x", "");
-  folder.Write("terminal.ini", "x\r\n" + folder.path() + "\\shared\\\r\nFalse\r\nTrue\r\n");
-  Start();
-  house().credits.Receive("10");
-  house().selection.Choose("\\m\\1.wav", PlayWay::kAddToQueue);
-  EXPECT_EQ(house().credits.count(), 9);
-  EXPECT_TRUE(folder.Has("shared/Queue.QUE"));
-}
-
 TEST_F(CreditsTest, APriceComesBackOnlyForATrackThatNeverBegan) {
   const std::string path = WriteTrack("A", "1.wav");
   Start();
