@@ -28,11 +28,14 @@ OptionPicker::OptionPicker(Panel& pages)
     : back(OptionKind::kCommand, "<<"),
       forward(OptionKind::kCommand, ">>"),
       choose(OptionKind::kCommand, "Choose"),
+      none(OptionKind::kCommand, "None"),
       done(OptionKind::kCommand, "Cancel") {
   AddPanel(pages, panel, {}, kPanel);
   AddLabel(panel, heading, {}, 14, kText, Align::kLeft, true);
   for (OptionField& item : items) AddOption(panel, item, {});
-  for (OptionField* command : {&back, &forward, &choose, &done}) AddOption(panel, *command, {});
+  for (OptionField* command : {&back, &forward, &choose, &none, &done}) {
+    AddOption(panel, *command, {});
+  }
   panel.SetVisible(false);
 }
 
@@ -51,6 +54,7 @@ void OptionPicker::LayOut() {
   for (OptionField* button : {&back, &forward, &choose, &done}) {
     button->SetPlace(Cell(bottom, 4, 1, at++));
   }
+  none.SetPlace(choose.place());
 }
 
 OptionKeyboard::OptionKeyboard(Panel& pages) {

@@ -33,6 +33,7 @@ struct OptionPicker {
   OptionField back;     // a page of items back
   OptionField forward;  // and on
   OptionField choose;   // takes what stands in the heading: "Choose"
+  OptionField none;     // in the same place, takes no item: "None"
   OptionField done;     // closes the list: "Cancel"
 };
 

@@ -36,6 +36,11 @@ OptionEntry::OptionEntry(OptionsScreen& screen, Boundary& boundary) : screen_(sc
     Close();
     chosen(folder_);
   });
+  picker.none.on_click = boundary.Guarded("list", [this] {
+    const auto picked = picked_;
+    Close();
+    picked(-1);
+  });
   // Keeps touches from what lies below.
   picker.panel.on_click = screen_.keyboard.panel.on_click = [] {};
 
@@ -54,7 +59,7 @@ OptionEntry::OptionEntry(OptionsScreen& screen, Boundary& boundary) : screen_(sc
 }
 
 void OptionEntry::Pick(const std::string& heading, std::vector<std::string> items, int selected,
-                       std::function<void(int)> picked) {
+                       std::function<void(int)> picked, bool may_be_none) {
   OptionPicker& picker = screen_.picker;
   items_ = std::move(items);
   selected_ = selected;
@@ -63,6 +68,7 @@ void OptionEntry::Pick(const std::string& heading, std::vector<std::string> item
   picked_ = std::move(picked);
   picker.heading.SetCaption(heading);
   picker.choose.SetVisible(false);
+  picker.none.SetVisible(may_be_none && selected >= 0);
   picker.panel.SetVisible(true);
   ShowItems();
 }

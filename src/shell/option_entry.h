@@ -16,9 +16,10 @@ class OptionEntry {
   OptionEntry(OptionsScreen& screen, Boundary& boundary);
 
   // The items to pick from, beginning with the page of the selected one (-1 for none). A pick
-  // closes the list before `picked` gets its index.
+  // closes the list before `picked` gets its index; -1 if none is to be selected any more, which is
+  // offered where it may be.
   void Pick(const std::string& heading, std::vector<std::string> items, int selected,
-            std::function<void(int index)> picked);
+            std::function<void(int index)> picked, bool may_be_none = false);
   // The folders from this one on, up and down; `chosen` gets the folder's path.
   void PickFolder(const std::string& folder, std::function<void(const std::string& path)> chosen);
   // A text. `each` hears of it at each key, `done` once it is taken over.

@@ -60,7 +60,8 @@ void Options::FillCommands() {
     lists.selected_genres.clear();
   };
   commands_.holiday_skin = [this] {
-    state_.of_day.skin = house_.lists.calendar_skins[static_cast<size_t>(state_.holiday_skin)];
+    const int skin = state_.holiday_skin;
+    state_.of_day.skin = skin < 0 ? "" : house_.lists.calendar_skins[static_cast<size_t>(skin)];
   };
   commands_.save_day = [this] { house_.calendar.Save(state_.day, state_.of_day); };
   commands_.commit_sign = [this] { commit_sign(); };
@@ -278,14 +279,15 @@ void Options::PickFrom(const Shown& item) {
   for (size_t i = 0; i < item.row.items->size(); ++i) {
     texts.push_back(ItemText(*item.row.items, i));
   }
-  entry_.Pick(item.row.caption, std::move(texts), SelectedOf(item.row), [this, &item](int index) {
+  const auto take = [this, &item](int index) {
     if (auto* truth = std::get_if<bool*>(&item.row.value)) {
       **truth = index == 0;
     } else {
       *std::get<int*>(item.row.value) = index;
     }
     Changed(item);
-  });
+  };
+  entry_.Pick(item.row.caption, std::move(texts), SelectedOf(item.row), take, item.row.may_be_none);
 }
 
 std::function<void(const std::string&)> Options::TakeText(const Shown& item) {

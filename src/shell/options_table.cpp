@@ -34,12 +34,13 @@ struct Maker {
     return row;
   }
   static OptionRow List(
-      const char* caption, int& value, const ItemList& items,
-      std::function<void()> changed = [] {}) {
+      const char* caption, int& value, const ItemList& items, std::function<void()> changed = [] {},
+      bool may_be_none = false) {
     return {.caption = caption,
             .kind = K::kList,
             .value = &value,
             .items = &items,
+            .may_be_none = may_be_none,
             .changed = std::move(changed)};
   }
   static OptionRow Text(const char* caption, std::string& value, K kind = K::kText) {
@@ -241,7 +242,7 @@ struct Maker {
                .height = kCalendarHeight},
               Text("Attract Mode Path:", state.of_day.attract_path, K::kFolder),
               List("Swap To Holiday Skin:", state.holiday_skin, lists.calendar_skins,
-                   commands.holiday_skin),
+                   commands.holiday_skin, true),
               Text("LED Sign Path:", state.of_day.sign_path),
               Text("Jingles Path:", state.of_day.jingles_path, K::kFolder),
               Text("Random Play Database:", state.of_day.database_path),
@@ -274,8 +275,8 @@ struct Maker {
     for (const Group& group : kGroups) {
       OptionFrame frame{group.caption, {}};
       for (size_t i = 0; i < group.keys.size(); ++i) {
-        frame.rows.push_back(
-            List(group.keys[i], house.key_map.selection(group.first + i), lists.key_codes));
+        frame.rows.push_back(List(
+            group.keys[i], house.key_map.selection(group.first + i), lists.key_codes, [] {}, true));
       }
       frames.push_back(std::move(frame));
     }

@@ -35,6 +35,7 @@ struct OptionRow {
   // Where the value lives. A list over a truth value has the true one first.
   std::variant<std::monostate, bool*, int*, std::string*> value{};
   const ItemList* items = nullptr;
+  bool may_be_none = false;  // whether none of the items is a choice too
   // What happens at the click, once the value stands.
   std::function<void()> changed = [] {};
   int least = 0;  // of a slider

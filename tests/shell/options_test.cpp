@@ -100,6 +100,11 @@ TEST_F(OptionsTest, TheOtherFilesHoldTheirControlsToo) {
   machine.events.on_pump = [this] { machine.keys.down.clear(); };
   jukebox->keys.PollKeys();
   EXPECT_TRUE(form().panel(screen::kQueue).visible());
+  // A key that was given is taken back.
+  Press(kKeys, "Menu Key Mappings", "Show Queue", K::kList);
+  Click(form().options.picker.none);
+  Save();
+  EXPECT_EQ(Lines("keyboard.dat")[16], "-1 \r");
 }
 
 TEST_F(OptionsTest, AFileThatCannotBeWrittenIsToldOfAndHoldsUpNoOther) {
