@@ -64,26 +64,18 @@ TEST(LayoutTables, PutEachFieldAtItsNumber) {
   } const cases[] = {
       {"main.ini", 30, "player.cover", 0, FieldKind::kTop},
       {"main.ini", 34, "screens", 0, FieldKind::kTop},
-      {"main.ini", 36, "screens", 0, FieldKind::kHeight},
-      {"main.ini", 41, "screen", 11, FieldKind::kTop},
       {"main.ini", 132, "player.clock", 0, FieldKind::kFontSize},
       {"menu.ini", 2, "menu.bar", 0, FieldKind::kHeight, "1"},
       {"menu.ini", 118, "menu.button", 8, FieldKind::kPicture, "0"},
       {"player.ini", 67, "player.volume", 0, FieldKind::kHeight, "Version 2"},
       {"nav.ini", 70, "album.pageCaption", 0, FieldKind::kBackColor},
       {"nav.ini", 117, "album.tab", 4, FieldKind::kIgnored},
-      {"nav.ini", 142, "album.tab", 5, FieldKind::kPicture},
-      {"font.ini", 12, "results.line", 6, FieldKind::kForeColor},
-      {"decades2.ini", 13, "decades.step", 0, FieldKind::kShape},
       {"decades_year.ini", 744, "decades.year", 56, FieldKind::kShape},
-      {"history.ini", 102, "history.lines", 0, FieldKind::kBackColor},
       {"queue.ini", 162, "queue.number", 1, FieldKind::kIgnored},
       {"tracklist.ini", 15, "trackList.stripBack", 0, FieldKind::kCaption},
       {"tracklist.ini", 470, "trackList.command", 5, FieldKind::kIgnored},
       {"options.ini", 2, "options.section", 0, FieldKind::kIgnored},
-      {"options.ini", 146, "options.pages", 0, FieldKind::kTop},
       {"play_options.ini", 147, "screen", 13, FieldKind::kPicture},
-      {"pin_screen.ini", 147, "pin.panel", 0, FieldKind::kLeft},
       {"pin_screen.ini", 148, "pin.panel", 0, FieldKind::kTop},
   };
   for (const auto& c : cases) {
@@ -94,14 +86,6 @@ TEST(LayoutTables, PutEachFieldAtItsNumber) {
     EXPECT_EQ(field.index, c.index) << c.file << ' ' << c.number;
     EXPECT_EQ(field.kind, c.kind) << c.file << ' ' << c.number;
   }
-}
-
-// The tables of words are looked up by the number of a kind.
-TEST(LayoutTables, HaveWordsForEachKindInItsPlace) {
-  EXPECT_STREQ(WordsOf(FieldKind::kScreenHeight), "height in whole pixels");
-  EXPECT_STREQ(WordsOf(FieldKind::kWidth), "width");
-  EXPECT_STREQ(WordsOf(BlockKind::kScreenSize), "size of the screen");
-  EXPECT_STREQ(WordsOf(BlockKind::kLabel), "label");
 }
 
 }  // namespace
