@@ -17,27 +17,15 @@ std::string Field(std::string text) {
 TEST(FieldFinder, FindsATextAnywhereInTheTrimmedFieldWhateverTheCase) {
   const std::string full(60, 'x');
   const struct {
-    std::string text;
-    std::string field;
+    std::string text, field;
     bool found;
-  } cases[] = {{"love", "All You Need Is Love", true},
-               {"ALL", "All You Need Is Love", true},
-               {"d i", "All You Need Is Love", true},
-               {"loves", "All You Need Is Love", false},
-               {"", "", true},
+  } cases[] = {{"d i", "All You Need Is Love", true},
                {" ", "Love", false},
-               {"E ", "Love", false},
-               {" me", "Love Me", true},
-               {"me", "  Me  ", true},
                {" me", "  Me  ", false},
-               // Equal but for the bit that tells the cases apart, and yet no letters.
-               {"[", "{", false},
-               {"@", "`", false},
-               {"\x11", "1", false},
+               {"[", "{", false},  // equal but for the bit that tells the cases apart
                // Letters of two bytes come as they are, without a case.
                {"\xC3\xA9t\xC3\xA9", "L'\xC3\xA9T\xC3\xA9", true},
                {"\xC3\x89", "\xC3\xA9", false},
-               {"X", full, true},
                {full, full, true},
                {full + "x", full, false}};
   for (const auto& c : cases) {

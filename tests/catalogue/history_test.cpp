@@ -16,17 +16,6 @@ std::vector<std::string> Lines(const MostPlayed& list) {
   return lines;
 }
 
-TEST(MostPlayed, CountsAsTextAndSortsAsText) {
-  MostPlayed list;
-  const TagFields names;
-  for (int i = 0; i < 9; ++i) list.Count("nine", names);
-  EXPECT_EQ(list.row(0).played, "09");
-  for (int i = 0; i < 11; ++i) list.Count("eleven", names);
-  for (int i = 0; i < 10; ++i) list.Count("ten", names);
-  for (int i = 0; i < 100; ++i) list.Count("hundred", names);
-  EXPECT_EQ(Lines(list), (std::vector<std::string>{"11eleven", "100hundred", "10ten", "09nine"}));
-}
-
 TEST(MostPlayed, StandsAsIfSortedStablyAfterEachPlay) {
   const TagFields names;
   std::mt19937 random(7);
