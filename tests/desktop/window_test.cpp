@@ -1,13 +1,10 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
-#include <QDropEvent>
 #include <QFontInfo>
 #include <QImage>
-#include <QMimeData>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QUrl>
 
 #include "desktop/form_window.h"
 #include "desktop/painter_canvas.h"
@@ -77,44 +74,6 @@ TEST_F(WindowTest, ATouchFindsItsControlAtAnyWindowSize) {
   }
 }
 
-// Collects what a window paints.
-class PaintedRegion : public QObject {
- public:
-  bool eventFilter(QObject*, QEvent* event) override {
-    if (event->type() == QEvent::Paint) region += static_cast<QPaintEvent*>(event)->region();
-    return false;
-  }
-  QRegion region;
-};
-
-TEST_F(WindowTest, HoveringAButtonRepaintsThatButtonAlone) {
-  Start();
-  ShowWindow();
-  window->resize(1280, 800);
-  Settle();
-  PaintedRegion painted;
-  window->installEventFilter(&painted);
-  const auto pixels_of = [](const Control& control) {
-    const Rect place = control.AbsolutePlace();
-    return QRectF(place.left, place.top, place.width, place.height).toAlignedRect();
-  };
-  // The one that the mouse has left is painted, too.
-  QRegion left;
-  for (const lvButtons_H* button :
-       {&form().menu_buttons[0], &form().album.next, &form().album.letter_buttons[3]}) {
-    painted.region = {};
-    const QRect place = pixels_of(*button);
-    QMouseEvent event(QEvent::MouseMove, place.center(), place.center(), Qt::NoButton, Qt::NoButton,
-                      Qt::NoModifier);
-    QCoreApplication::sendEvent(window.get(), &event);
-    Settle();
-    EXPECT_TRUE(painted.region.contains(place)) << button->caption();
-    const QRegion allowed = QRegion(place.adjusted(-1, -1, 1, 1)) + left;
-    EXPECT_TRUE((painted.region - allowed).isEmpty()) << button->caption();
-    left = place.adjusted(-1, -1, 1, 1);
-  }
-}
-
 TEST_F(WindowTest, PaintsASkinWhoseNumbersMakeNoSense) {
   Start();
   ShowWindow();
@@ -125,21 +84,15 @@ TEST_F(WindowTest, PaintsASkinWhoseNumbersMakeNoSense) {
     for (const LayoutFile& file : LayoutFiles()) {
       folder.Write(std::string("skins/Plain/") + file.name,
                    LayoutText(file, [&](const LayoutField& field) -> std::string {
-                     switch (field.kind) {
-                       case FieldKind::kTop:
-                       case FieldKind::kLeft:
-                         return field.number % 3 == 0 ? number : "0";
-                       case FieldKind::kHeight:
-                       case FieldKind::kWidth:
-                       case FieldKind::kFontSize:
-                         return number;
-                       case FieldKind::kPicture:
-                         return field.number % 3 == 0 ? "" : "a.bmp";
-                       case FieldKind::kShape:
-                         return std::to_string(field.number % 9);
-                       default:
-                         return PlainValue(field);
+                     const bool third = field.number % 3 == 0;
+                     const FieldKind kind = field.kind;
+                     if (kind == FieldKind::kFontSize) return number;
+                     if (kind == FieldKind::kPicture) return third ? "" : "a.bmp";
+                     if (kind == FieldKind::kShape) return std::to_string(field.number % 9);
+                     if (kind < FieldKind::kTop || kind > FieldKind::kWidth) {
+                       return PlainValue(field);
                      }
+                     return third || kind >= FieldKind::kHeight ? number : "0";
                    }));
     }
     jukebox->house.skins.ApplySkin();
@@ -148,65 +101,6 @@ TEST_F(WindowTest, PaintsASkinWhoseNumbersMakeNoSense) {
       form().ShowScreen(i);
       EXPECT_FALSE(window->grab().isNull()) << number;
     }
-  }
-}
-
-class BareWindow : public testing::Test {
- protected:
-  BareWindow() {
-    form.SetPlace({0, 0, 200, 100});
-    form.Add(button, {0, 0, 100, 100});
-    window = std::make_unique<FormWindow>(form, pictures);
-    window->show();
-  }
-  Qt::CursorShape PointerAt(const QPointF& at) {
-    QMouseEvent event(QEvent::MouseMove, at, at, Qt::NoButton, Qt::NoButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(window.get(), &event);
-    return window->cursor().shape();
-  }
-
-  const TempFolder folder;
-  PictureCache pictures;
-  Form form;
-  lvButtons_H button;
-  std::unique_ptr<FormWindow> window;
-};
-
-TEST_F(BareWindow, ShowsThePointerOfTheControlUnderTheMouse) {
-  button.SetMousePointer(11);
-  EXPECT_EQ(PointerAt({50, 50}), Qt::WaitCursor);
-  EXPECT_EQ(PointerAt({150, 50}), Qt::ArrowCursor);
-  QImage icon(8, 8, QImage::Format_RGB32);
-  icon.fill(Qt::red);
-  ASSERT_TRUE(icon.save(QString::fromStdString((folder.native() / "hand.png").string())));
-  button.SetMousePointer(MouseShape::kIcon);
-  button.SetMouseIcon(folder.path() + "\\hand.png");
-  EXPECT_EQ(PointerAt({50, 50}), Qt::BitmapCursor);
-  button.SetMouseIcon(folder.path() + "\\none.png");
-  EXPECT_EQ(PointerAt({51, 50}), Qt::ArrowCursor) << "a picture that isn't there";
-  button.SetMousePointer(-7);
-  EXPECT_EQ(PointerAt({52, 50}), Qt::ArrowCursor);
-  window->setCursor(Qt::BlankCursor);
-  button.SetMousePointer(2);
-  EXPECT_EQ(PointerAt({53, 50}), Qt::BlankCursor) << "pointers are hidden";
-}
-
-TEST_F(BareWindow, HandsInWhatIsDropped) {
-  QMimeData mime;
-  mime.setUrls({QUrl::fromLocalFile("/music/a b.mp3"), QUrl("http://x/y")});
-  std::vector<std::string> files;
-  button.on_drag_drop = [&](DragEvent& event) {
-    files = event.data.files;
-    event.effect = event.proposed;
-  };
-  for (const auto& [x, taken] : {std::pair{150, false}, {50, true}}) {
-    const Qt::DropActions offered = Qt::CopyAction | Qt::MoveAction;
-    QDragEnterEvent enter({x, 50}, offered, &mime, Qt::LeftButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(window.get(), &enter);
-    QDropEvent drop(QPointF(x, 50), offered, &mime, Qt::LeftButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(window.get(), &drop);
-    EXPECT_EQ(drop.isAccepted(), taken);
-    EXPECT_EQ(files, std::vector<std::string>(taken ? 1 : 0, "\\music\\a b.mp3"));
   }
 }
 

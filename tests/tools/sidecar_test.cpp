@@ -25,18 +25,16 @@ TrackInfo Sample() {
 
 TEST(Sidecar, IsReadByLineNumbersAndCuts) {
   const std::string text = SidecarText(Sample());
-  const std::tuple<int, size_t, size_t, const char*> cases[] = {
-      {2, 8, 9, "Ada & \"Bob\", <c>"},
-      {3, 7, 8, "D\u00E9j\u00E0  vu"},
-      {4, 7, 8, "Dawn"},
-      {5, 6, 7, "Cy"},
-      {6, 7, 8, "3/12"},
-      {7, 6, 7, "1999"},
-      {8, 7, 8, "Pop"},
-      {9, 14, 15, ""},
-      {10, 13, 14, "fine"},
-      {12, 10, 11, "3:05"},
-  };
+  const std::tuple<int, size_t, size_t, const char*> cases[] = {{2, 8, 9, "Ada & \"Bob\", <c>"},
+                                                                {3, 7, 8, "D\u00E9j\u00E0  vu"},
+                                                                {4, 7, 8, "Dawn"},
+                                                                {5, 6, 7, "Cy"},
+                                                                {6, 7, 8, "3/12"},
+                                                                {7, 6, 7, "1999"},
+                                                                {8, 7, 8, "Pop"},
+                                                                {9, 14, 15, ""},
+                                                                {10, 13, 14, "fine"},
+                                                                {12, 10, 11, "3:05"}};
   for (const auto& [line, front, back, value] : cases) {
     LineReader lines(text);
     for (int i = 1; i < line; ++i) lines.Next();
