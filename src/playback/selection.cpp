@@ -30,12 +30,12 @@ void Selection::add_queue4(const std::string& path) {
   std::exception_ptr failure;
   try {
     Add(path, play_now, play_next);
-  } catch (const RuntimeFailure&) {
+  } catch (const RuntimeFailure& failed) {
     // A shared folder that is gone: nobody pays for what failed before it began. A "Play Now" of a
     // file that isn't there fails nowhere and is paid; that is meant.
     if (state_.opened == opened) {
       credits_.GiveBack(*price);
-      throw;
+      throw NothingTaken(failed.what());
     }
     // What plays has been paid, and the rest of the house has to know.
     failure = std::current_exception();

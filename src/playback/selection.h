@@ -7,10 +7,17 @@
 
 #include "access/credits.h"
 #include "catalogue/catalogue.h"
+#include "files/runtime_failure.h"
 #include "playback/queue_view.h"
 #include "playback/track_sequence.h"
 
 namespace sonotik {
+
+// Nothing has come of a selection, and its price has been given back.
+class NothingTaken : public RuntimeFailure {
+ public:
+  using RuntimeFailure::RuntimeFailure;
+};
 
 class Selection {
  public:
@@ -26,7 +33,8 @@ class Selection {
   std::function<void(bool play_next)> announce = [](bool) {};
 
   // By the two flags: to the end of the queue, to its head, or played at once. Charges first, and
-  // without the credits nothing at all happens.
+  // without the credits nothing at all happens. Throws NothingTaken, or RuntimeFailure for what
+  // fails once it is taken.
   void add_queue4(const std::string& path);
   // The same with the flags set for this one call.
   void Choose(const std::string& path, PlayWay way);

@@ -163,11 +163,19 @@ void Navigation::DoubleClickTrackRow(int row) {
 bool Navigation::Choose(const std::string& path, PlayWay way) {
   // A start lets events run, and the second of two quick taps must not pay again.
   if (way == PlayWay::kPlayNow && house_.playback.starting > 0) return false;
-  // By then it is charged and added: what fails behind that (a list for others, a tag) must not
-  // leave the guest on a screen that asks again.
   const unsigned long shown = house_.form1.screens_shown();
-  house_.boundary.Run("add_queue4", [&] { house_.selection.Choose(path, way); });
-  return house_.form1.screens_shown() == shown;
+  // What fails once it is charged and added (a list for others, a tag) must not leave the guest on
+  // a screen that asks again.
+  bool taken = true;
+  house_.boundary.Run("add_queue4", [&] {
+    try {
+      house_.selection.Choose(path, way);
+    } catch (const NothingTaken&) {
+      taken = false;
+      throw;
+    }
+  });
+  return taken && house_.form1.screens_shown() == shown;
 }
 
 void Navigation::ChooseOn(size_t screen, const std::string& path, PlayWay way) {

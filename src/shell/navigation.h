@@ -17,8 +17,9 @@ class Navigation {
   // Hundredths of a decibel, for the slider, the setting and the track that plays.
   void SetVolume(int value);
   // Adds or plays by the way chosen; what fails behind the charge is no failure of the caller.
-  // False if nothing is taken, since "Play Now" while another track starts would lose its play, or
-  // if the guest has gone elsewhere while it started: he stays there.
+  // False if nothing is taken, since a Terminal's folder is gone or "Play Now" while another track
+  // starts would lose its play, or if the guest has gone elsewhere while it started: he stays
+  // there.
   bool Choose(const std::string& path, PlayWay way);
   // The same from a screen, and then the way back: to the album pages if that is asked for, else
   // the screen stays.
