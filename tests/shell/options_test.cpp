@@ -101,6 +101,7 @@ TEST_F(OptionsTest, TheOtherFilesHoldTheirControlsToo) {
   jukebox->keys.PollKeys();
   EXPECT_TRUE(form().panel(screen::kQueue).visible());
   // A key that was given is taken back.
+  OpenPages();
   Press(kKeys, "Menu Key Mappings", "Show Queue", K::kList);
   Click(form().options.picker.none);
   Save();
