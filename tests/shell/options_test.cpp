@@ -4,7 +4,7 @@
 namespace sonotik {
 namespace {
 
-TEST_F(OptionsTest, AClickThatShowsOrHidesDoesSoAtOnceAndAfterARestart) {
+TEST_F(OptionsTest, AClickThatShowsOrHidesDoesSoAtOnce) {
   settings.show_ratings_thumbs = true;
   WriteDefaults();
   Open();
@@ -45,12 +45,24 @@ TEST_F(OptionsTest, AClickThatShowsOrHidesDoesSoAtOnceAndAfterARestart) {
     EXPECT_FALSE(c.control()->visible()) << c.caption;
     Press(kButtons, c.frame, c.caption, K::kCheck);
     EXPECT_TRUE(c.control()->visible()) << c.caption;
-    Press(kButtons, c.frame, c.caption, K::kCheck);
   }
+}
+
+TEST_F(OptionsTest, ASkinIsPreviewedWhenItIsPickedAndWornFromItsApplyingOn) {
+  folder.Write("skins/New/preview.jpg", "x");
+  Open();
+  const std::string worn = house().settings.current_skin;
+  Press(kLooks, "Appearance Options", "Refresh Skin List", K::kCommand);
+  const ItemList& skins = house().lists.skins;
+  Press(kLooks, "Appearance Options", "Selected Skin:", K::kList);
+  Pick(static_cast<size_t>(std::find(skins.begin(), skins.end(), "New") - skins.begin()));
+  EXPECT_TRUE(form().options.skin_preview.picture().ends_with("New\\preview.jpg"));
+  EXPECT_EQ(house().settings.current_skin, worn);
+  Press(kLooks, "Appearance Options", "Apply Skin", K::kCommand);
   Save();
   jukebox.reset();
   Start();
-  for (const auto& c : cases) EXPECT_FALSE(c.control()->visible()) << c.caption;
+  EXPECT_EQ(house().settings.current_skin, "New");
 }
 
 TEST_F(OptionsTest, TheOtherFilesHoldTheirControlsToo) {
