@@ -17,8 +17,9 @@ void Attract::Change() {
   Panel& now_playing = form1_.panel(screen::kNowPlaying);
   if (picture.visible()) {
     Animate(picture, 0);
-    Animate(now_playing, 1);
-    picture.SetVisible(false);
+    // Gone before the other comes, or a touch on that one would end the picture behind it.
+    Hide(picture);
+    if (!touched()) Animate(now_playing, 1);
     // One that began meanwhile.
     form1_.RaiseFact();
     return;
@@ -29,16 +30,29 @@ void Attract::Change() {
     picture.SetPicture(files_.PathAt(static_cast<int>(random_.Below(files_.count()))));
   }
   Animate(now_playing, 0);
+  // A guest who touches anything meanwhile keeps what he went to.
+  if (touched()) return now_playing.SetRegion({});
   picture.BringToFront();
   Animate(picture, 1);
-  now_playing.SetVisible(false);
+  if (touched()) {
+    Hide(picture);
+    now_playing.SetRegion({});
+  } else {
+    Hide(now_playing);
+  }
 }
 
 void Attract::End() {
   if (!form1_.attract_picture.visible()) return;
-  form1_.panel(screen::kNowPlaying).SetVisible(false);
+  Hide(form1_.panel(screen::kNowPlaying));
   Animate(form1_.attract_picture, 0);
-  form1_.attract_picture.SetVisible(false);
+  Hide(form1_.attract_picture);
+}
+
+void Attract::Hide(Panel& panel) {
+  panel.SetVisible(false);
+  // Whole again for whoever shows it next.
+  panel.SetRegion({});
 }
 
 void Attract::Animate(Panel& panel, int show) {

@@ -2,6 +2,8 @@
 #ifndef SONOTIK_PLAYBACK_ATTRACT_H_
 #define SONOTIK_PLAYBACK_ATTRACT_H_
 
+#include <functional>
+
 #include "config/settings.h"
 #include "files/file_list.h"
 #include "forms/Form1.h"
@@ -15,6 +17,9 @@ class Attract {
   Attract(const Settings& settings, RandomSource& random, CoverAnimation& animation, Form1& form)
       : settings_(settings), random_(random), animation_(animation), form1_(form) {}
 
+  // Whether somebody has touched the cabinet since the change began: then it goes no further.
+  std::function<bool()> touched = [] { return false; };
+
   // One change: the next picture for what plays, or what plays for the picture. An empty folder
   // still takes its turn, with the last picture.
   void Change();
@@ -23,6 +28,7 @@ class Attract {
 
  private:
   void Animate(Panel& panel, int show);
+  static void Hide(Panel& panel);
 
   const Settings& settings_;
   RandomSource& random_;

@@ -87,6 +87,8 @@ Assembly::Assembly(std::string path, Machine& ports)
     network.WriteSpool({playback.play_now_flag, playback.play_next_flag, track});
     return true;
   };
+  // A change comes after idle seconds, and any touch sets them back.
+  attract.touched = [this] { return state.idle_seconds == 0; };
   search.on_record = [this] { state.idle_seconds = 0; };
   play_options.queue_count = [this] { return queue.count(); };
   skins.screens.hooks.set_track_rows = [this](int rows) { track_list.SetRowsPerPage(rows); };

@@ -63,11 +63,17 @@ Region RevealedRegion(int style, int i, int n, float width, float height) {
 bool CoverAnimation::Animate(Control& target, int show, int style, int delay_ms, int steps) {
   target.SetVisible(true);
   target.SetRegion({});
-  if (style < 0 || style >= kRandomStyle || steps <= 0) {
-    running_ = false;
-    return false;
+  for (Run* run = run_; run != nullptr; run = run->outer) {
+    if (&run->target == &target) run->overtaken = true;
   }
-  running_ = true;
+  if (style < 0 || style >= kRandomStyle || steps <= 0) return false;
+  Run run{target, run_};
+  run_ = &run;
+  const struct Leave {
+    Run*& current;
+    Run* outer;
+    ~Leave() { current = outer; }
+  } leave{run_, run.outer};
   const float width = target.place().width;
   const float height = target.place().height;
   for (int i = 0; i <= steps; ++i) {
@@ -79,10 +85,11 @@ bool CoverAnimation::Animate(Control& target, int show, int style, int delay_ms,
     } else {
       events_.PumpEvents();
     }
+    if (run.overtaken) return true;
+    if (!target.visible()) break;
   }
   // Revealed it is whole again, whatever size it takes from here on.
-  if (show != 0) target.SetRegion({});
-  running_ = false;
+  if (show != 0 || !target.visible()) target.SetRegion({});
   return true;
 }
 

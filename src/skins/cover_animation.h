@@ -18,8 +18,9 @@ class CoverAnimation {
   CoverAnimation(EventLoop& events, RandomSource& random) : events_(events), random_(random) {}
 
   // `show` 1 reveals, 0 hides. Each of the steps 0 to `steps` takes `delay_ms` and lets events run,
-  // also without a delay, so the caller waits that long and may be entered again. A style beyond
-  // the list, or no steps at all, shows the control at once and gives false.
+  // also without a delay, so the caller waits that long and may be entered again: an animation
+  // whose target is animated anew, or hidden, meanwhile ends there. A style beyond the list, or no
+  // steps at all, shows the control at once and gives false.
   bool Animate(Control& target, int show, int style, int delay_ms, int steps);
 
   // A style of the list with "Random" drawn.
@@ -27,12 +28,19 @@ class CoverAnimation {
     return style == kRandomStyle ? static_cast<int>(random_.Below(kRandomStyle)) : style;
   }
 
-  bool running() const { return running_; }
+  bool running() const { return run_ != nullptr; }
 
  private:
+  // An animation that goes on, and those it was entered from.
+  struct Run {
+    Control& target;
+    Run* outer;
+    bool overtaken = false;  // its target is animated anew
+  };
+
   EventLoop& events_;
   RandomSource& random_;
-  bool running_ = false;
+  Run* run_ = nullptr;
 };
 
 // The region of a style (0 to 13) at step i of n, in the coordinates of a control of this size.

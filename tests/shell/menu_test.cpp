@@ -149,5 +149,30 @@ TEST_F(MenuTest, ATouchEndsTheAttractPicture) {
   EXPECT_EQ(Shown(), Screens{screen::kAlbum});
 }
 
+TEST_F(MenuTest, ATouchAtAnyStepOfAnAttractChangeLeadsToAScreen) {
+  Start();
+  house().settings.animation_amount = "3";
+  house().settings.attract_animation_style = 0;
+  for (const bool picture_first : {false, true}) {
+    for (int step = 1; step <= 8; ++step) {
+      form().HideAllScreens();
+      if (!picture_first) form().ShowScreen(screen::kNowPlaying);
+      form().attract_picture.SetVisible(picture_first);
+      form().attract_picture.BringToFront();
+      machine.events.on_pump = [&, now = 0]() mutable {
+        if (++now != step) return;
+        house().state.idle_seconds = 0;
+        if (form().attract_picture.visible()) return form().attract_picture.on_click();
+        jukebox->menu.Open(MenuButton::kAlbumView);
+      };
+      house().state.idle_seconds = 61;
+      house().attract.Change();
+      machine.events.on_pump = [] {};
+      EXPECT_FALSE(form().attract_picture.visible()) << picture_first << step;
+      EXPECT_EQ(Shown(), Screens{screen::kAlbum}) << picture_first << step;
+    }
+  }
+}
+
 }  // namespace
 }  // namespace sonotik

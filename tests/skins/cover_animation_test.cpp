@@ -56,6 +56,21 @@ TEST_F(AnimationTest, EachStepRepaintsOnlyWhatItReveals) {
   EXPECT_FALSE(panel().region());
 }
 
+TEST_F(AnimationTest, EnteredAgainTheInnerOneEndsItAndAHiddenTargetStaysHidden) {
+  int pumps = 0;
+  machine.events.on_pump = [&] {
+    if (++pumps == 3) animation.Animate(panel(), 1, 2, 0, 4);
+  };
+  EXPECT_TRUE(animation.Animate(panel(), 1, 0, 0, 10));
+  EXPECT_EQ(pumps, 3 + 5);
+  EXPECT_FALSE(panel().region());
+  EXPECT_FALSE(animation.running());
+  machine.events.on_pump = [&] { panel().SetVisible(false); };
+  animation.Animate(panel(), 1, 0, 0, 4);
+  EXPECT_FALSE(panel().visible());
+  EXPECT_FALSE(panel().region());
+}
+
 TEST_F(AnimationTest, HiddenItIsGoneForTheFingerUntilItIsShownAnew) {
   form1.ShowScreen(screen::kNowPlaying);
   panel().on_click = [] {};
