@@ -41,6 +41,7 @@ void Calendar::Apply(Date day) {
     if (line.value == &DaySettings::attract_path) settings_.attract_path = page_.attract_path;
     if (line.value == &DaySettings::skin && !page_.skin.empty()) swap_skin(page_.skin);
   }
+  show_page(page_);
 }
 
 bool Calendar::Load(Date day, DaySettings& page) const {

@@ -26,6 +26,8 @@ class Calendar {
 
   // Puts on the day's skin.
   std::function<void(const std::string& name)> swap_skin = [](const std::string&) {};
+  // Fills the boxes of the operator's page.
+  std::function<void(const DaySettings& page)> show_page = [](const DaySettings&) {};
 
   // The first tick of a day: what its file says holds until the program ends, or until a day that
   // says otherwise. Nothing is stored. Throws RuntimeFailure for a file cut short, with what stands

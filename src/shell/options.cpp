@@ -63,6 +63,10 @@ void Options::FillCommands() {
     const int skin = state_.holiday_skin;
     state_.of_day.skin = skin < 0 ? "" : house_.lists.calendar_skins[static_cast<size_t>(skin)];
   };
+  house_.calendar.show_page = [this](const DaySettings& page) {
+    state_.of_day = page;
+    Refresh();
+  };
   commands_.save_day = [this] { house_.calendar.Save(state_.day, state_.of_day); };
   commands_.commit_sign = [this] { commit_sign(); };
   commands_.role_changed = [this] {

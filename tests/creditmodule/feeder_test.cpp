@@ -75,11 +75,13 @@ TEST_F(FeederTest, HandsOverACreditForEachLineUntilItIsAskedToEnd) {
   Run(nullptr);
   Type("coin\n\ncoin\nlast without an end");
   EndInput();
+  std::string taken;
+  while (taken.size() < 6) taken += Taken();
   // Behind the end of its input it stays for the request alone.
   while (PutIntoTextBox(folder.path(), kCreditModuleBox, "close") != BoxAnswer::kTaken) {
   }
   EXPECT_EQ(Result(), 0);
-  EXPECT_EQ(Taken().substr(0, 6), "1;1;1;");
+  EXPECT_EQ((taken + Taken()).substr(0, 6), "1;1;1;");
 }
 
 }  // namespace

@@ -129,7 +129,10 @@ class SettingsTest : public OptionsTest {
     return Animation(form().panel(screen::kAlbum), [&] { house().pages.read_albums3(); });
   }
   std::string Attraction() {
-    return Animation(form().attract_picture, [&] { house().attract.Change(); });
+    return Animation(form().attract_picture, [&] {
+      house().state.idle_seconds = 61;
+      house().attract.Change();
+    });
   }
   std::string Idle(double seconds) {
     Play(songs[0]);
