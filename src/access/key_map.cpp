@@ -13,7 +13,7 @@ void KeyMap::LoadKeyMap() {
   for (int& code : codes_) {
     const int selected = reader.Int16();
     if (selected < -1 || selected > 130) {
-      throw RuntimeFailure("keyboard.dat: there is no key " + std::to_string(selected));
+      throw RuntimeFailure("there is no key " + std::to_string(selected));
     }
     code = selected;
   }

@@ -3,6 +3,17 @@
 #include "playback/genre_lists.h"
 
 namespace sonotik {
+namespace {
+
+// "cannot write \\jukebox\\x: No space left on device": the file has been named already, and where
+// the jukebox lies tells the operator nothing.
+std::string ReasonOf(const RuntimeFailure& failure) {
+  const std::string words = failure.what();
+  const size_t colon = words.rfind(": ");
+  return colon == std::string::npos ? words : words.substr(colon + 2);
+}
+
+}  // namespace
 
 void SaveSettings(Assembly& house) {
   const struct {
@@ -17,15 +28,22 @@ void SaveSettings(Assembly& house) {
       {"betabrite.ini", [&] { house.sign.SaveSign(); }},
       {"terminal.ini", [&] { house.network.SaveTerminal(); }},
   };
-  std::string failed;
+  // A full disk fails them all, and says so once.
+  std::string failed, reason;
   for (const auto& item : files) {
     try {
       item.save();
     } catch (const RuntimeFailure& failure) {
-      failed += std::string("\n") + item.file + ": " + failure.what();
+      const std::string why = ReasonOf(failure);
+      if (why == reason) {
+        failed += std::string(", ") + item.file;
+      } else {
+        failed += "\n" + why + ": " + item.file;
+      }
+      reason = why;
     }
   }
-  if (!failed.empty()) house.machine.messages.Show("These settings were not saved:" + failed);
+  if (!failed.empty()) house.machine.messages.Show("These files were not saved." + failed);
 }
 
 }  // namespace sonotik

@@ -1,4 +1,8 @@
 // The operator's pages: from each control through the files and a restart to what it does.
+#include <sys/resource.h>
+
+#include <csignal>
+
 #include "support/options_test.h"
 
 namespace sonotik {
@@ -129,8 +133,7 @@ TEST_F(OptionsTest, AFileThatCannotBeWrittenIsToldOfAndHoldsUpNoOther) {
   Pick(0);
   Save();
   ASSERT_EQ(machine.messages.shown.size(), 1U);
-  EXPECT_THAT(machine.messages.shown[0], testing::HasSubstr("keyboard.dat"));
-  EXPECT_THAT(machine.messages.shown[0], testing::Not(testing::HasSubstr("cost.dat")));
+  EXPECT_EQ(machine.messages.shown[0], "These files were not saved.\nIs a directory: keyboard.dat");
   for (const char* file :
        {"sonotik.ini", "random.dat", "permissions.ini", "betabrite.ini", "terminal.ini"}) {
     EXPECT_TRUE(folder.Has(file)) << file;
@@ -139,6 +142,33 @@ TEST_F(OptionsTest, AFileThatCannotBeWrittenIsToldOfAndHoldsUpNoOther) {
   EXPECT_TRUE(form().panel(screen::kOptions).visible());
   std::filesystem::remove_all(folder.native() / "keyboard.dat");
   Save();
+  EXPECT_EQ(machine.messages.shown.size(), 1U);
+}
+
+TEST_F(OptionsTest, ADiskThatTakesNothingLeavesTheOldFilesWholeAndIsToldOfOnce) {
+  Open();
+  Save();
+  const char* const files[] = {"sonotik.ini", "random.dat",    "keyboard.dat", "permissions.ini",
+                               "cost.dat",    "betabrite.ini", "terminal.ini"};
+  std::vector<std::string> before;
+  for (const char* file : files) before.push_back(folder.Read(file));
+  Press(kKeys, "Power Off", "Disable Keymapping", K::kCheck);
+  // No file takes a byte, as on a disk without room.
+  struct rlimit limit;
+  ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &limit), 0);
+  const struct rlimit none { 0, limit.rlim_max };
+  const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+  ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &none), 0);
+  Save();
+  setrlimit(RLIMIT_FSIZE, &limit);
+  std::signal(SIGXFSZ, handler);
+  EXPECT_EQ(machine.messages.shown,
+            std::vector<std::string>{"These files were not saved.\nFile too large: sonotik.ini, "
+                                     "random.dat, keyboard.dat, permissions.ini, cost.dat, "
+                                     "betabrite.ini, terminal.ini"});
+  for (size_t i = 0; i < before.size(); ++i) EXPECT_EQ(folder.Read(files[i]), before[i]);
+  Save();
+  EXPECT_NE(folder.Read("sonotik.ini"), before[0]);
   EXPECT_EQ(machine.messages.shown.size(), 1U);
 }
 
