@@ -97,8 +97,10 @@ TEST_F(MenuTest, ThePinDecidesWhoSeesWhichSections) {
     EnterPin(pin);
     EXPECT_FALSE(form().pin_screen.visible());
   };
-  open("99");
-  EXPECT_EQ(Shown(), Screens{screen::kAlbum});
+  for (const std::string& wrong : {std::string("99"), std::string(), std::string(500, '9')}) {
+    open(wrong);
+    EXPECT_EQ(Shown(), Screens{screen::kAlbum}) << wrong;
+  }
   // One PIN for both is the Admin's. It leaves the last section as it stood.
   form().options.sections[7].SetVisible(false);
   open("12");
@@ -117,8 +119,10 @@ TEST_F(MenuTest, ThePinDecidesWhoSeesWhichSections) {
   EXPECT_EQ(Shown(), Screens{screen::kOptions});
   const std::string when = "01/15/2024 12:00:00";
   EXPECT_EQ(folder.Read("password.txt"), when + " Incorrect pin entered... 99\r\n" + when +
-                                             " Correct ADMIN pin entered... \r\n" + when +
-                                             " Correct DELEGATE pin entered... \r\n" + when +
+                                             " Incorrect pin entered... \r\n" + when +
+                                             " Incorrect pin entered... " + std::string(500, '9') +
+                                             "\r\n" + when + " Correct ADMIN pin entered... \r\n" +
+                                             when + " Correct DELEGATE pin entered... \r\n" + when +
                                              " Correct DELEGATE pin entered... \r\n");
 }
 

@@ -293,7 +293,9 @@ TEST_F(OptionsTest, DamagedFilesCostWhatTheyHold) {
   } files[] = {{"permissions.ini", 10}, {"keyboard.dat", 35}, {"cost.dat", 9}};
   for (const auto& f : files) {
     for (const char* bad : {"", "word", " 99999999999 ", "-7 ", " 200 "}) {
-      for (const int good : {0, 1, f.lines - 1}) {
+      for (int good = 0; good < f.lines; ++good) {
+        // Cut at every line; what is no number stands first, second and last.
+        if (*bad != '\0' && good > 1 && good < f.lines - 1) continue;
         std::string text;
         for (int i = 0; i < good; ++i) text += " 1 \r\n";
         folder.Write(f.file, *bad == '\0' ? text : text + bad + "\r\n");
