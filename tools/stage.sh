@@ -47,11 +47,19 @@ make_jukebox() {
   mapfile -t tracks < <(find "$1" -name '*.mp3' | sort)
 }
 
+# The start's progress is a window of the same name, so the jukebox's own is told by its skin's width.
+window_width() { xdotool getwindowgeometry --shell "$1" 2>/dev/null | sed -n 's/^WIDTH=//p'; }
+wears() {
+  local shown
+  for shown in $(xdotool search --onlyvisible --name '^Sonotik$'); do
+    [ "$(window_width "$shown")" != "$1" ] || return 0
+  done
+  return 1
+}
 start() {
   "$demo/sonotik" >>"$work/jukebox.log" 2>&1 &
   jukebox=$!
-  until_true 30 xdotool search --onlyvisible --name '^Sonotik$' >"$work/window" ||
-    fail "no window came up"
+  until_true 30 wears "${window%%x*}" || fail "no window came up"
   settle
 }
 leave() {

@@ -39,6 +39,7 @@ void Ticks::StateTick() {
       PickWhatComesNext();
     }
   });
+  MoveIndicator();
   if (house_.queue.path(0).empty()) house_.form1.now_playing.next_song.SetVisible(false);
 }
 
@@ -110,6 +111,16 @@ void Ticks::EndTrack() {
 void Ticks::ShowPosition() {
   const double position = std::trunc(house_.engine.MediaPosition() * 100) / 100;
   if (position < kLastShownPosition) house_.form1.position.SetCaption(MinutesSeconds(position));
+}
+
+// It stands still in silence, and so does the screen.
+void Ticks::MoveIndicator() {
+  ucAniGIF& indicator = house_.form1.now_playing_indicator;
+  if (!house_.engine.MediaIsPlaying()) {
+    indicator.SetAction(GifAction::kPause);
+  } else if (indicator.paused()) {
+    indicator.SetAction(GifAction::kPlay);
+  }
 }
 
 void Ticks::PickWhatComesNext() {

@@ -39,6 +39,7 @@ class Ticks {
   void EndTrack();
   void ShowPosition();
   void PickWhatComesNext();
+  void MoveIndicator();
   void StartQueueHead();
   void CountDeadAir();
   void ClearPlayingInfoOnce();

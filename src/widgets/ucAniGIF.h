@@ -63,6 +63,7 @@ class ucAniGIF : public Control {
   void SetAction(int action);
   void SetAction(GifAction action) { SetAction(static_cast<int>(action)); }
   bool playing() const { return state_ == State::kPlaying; }
+  bool paused() const { return state_ == State::kPaused; }
 
   int frame_count() const { return static_cast<int>(gif_.frames.size()); }
   int frame() const { return frame_; }

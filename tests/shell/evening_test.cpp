@@ -66,6 +66,23 @@ TEST_F(EveningTest, TheNextEntryStartsOnTheTickThatEndsTheOneBefore) {
   EXPECT_EQ(Plays(), 3);
 }
 
+TEST_F(EveningTest, TheIndicatorMovesOnlyWhileSomethingSounds) {
+  const std::string frame("\x2c\0\0\0\0\1\0\1\0\0\2\2\x44\1\0", 15);
+  Start();
+  ucAniGIF& indicator = form().now_playing_indicator;
+  ASSERT_TRUE(indicator.LoadAnimatedGIF_Array(
+      std::string("GIF89a\1\0\1\0\x80\0\0\0\0\0\xff\xff\xff", 19) + frame + frame + ";"));
+  indicator.SetAction(GifAction::kPlay);
+  Advance(1);
+  EXPECT_FALSE(indicator.playing());
+  house().selection.Choose(tracks[0], PlayWay::kPlayNow);
+  Advance(1);
+  EXPECT_TRUE(indicator.playing());
+  Click(form().player_buttons[static_cast<size_t>(PlayerButton::kPause)]);
+  Advance(1);
+  EXPECT_FALSE(indicator.playing());
+}
+
 TEST_F(EveningTest, FilesThatAreGoneOrDamagedNeverStopTheQueue) {
   Start();
   machine.player.lengths[tracks[0]] = -1;
