@@ -4,7 +4,6 @@
 
 #include "access/key_names.h"
 #include "shell/save_settings.h"
-#include "text/numbers.h"
 
 namespace sonotik {
 namespace {
@@ -36,7 +35,8 @@ Options::Options(Assembly& house, SettingsEffects& effects)
     : house_(house),
       effects_(effects),
       screen_(house.form1.options),
-      entry_(screen_, house.boundary) {
+      entry_(screen_, house.boundary),
+      month_(house.form1, house.boundary, [this](const Date& day) { SelectDay(day); }) {
   state_.monitor_uses = {"Videos Only", "All"};
   FillCommands();
   Build();
@@ -133,15 +133,6 @@ void Options::Wire() {
   };
   screen_.page_back.on_click = [turn] { turn(-1); };
   screen_.page_forward.on_click = [turn] { turn(1); };
-
-  OptionCalendar& calendar = screen_.calendar;
-  calendar.month_back.on_click = [this] { StepMonth(-1); };
-  calendar.month_forward.on_click = [this] { StepMonth(1); };
-  for (size_t i = 0; i < calendar.days.size(); ++i) {
-    calendar.days[i].on_click = house_.boundary.Guarded("day", [this, i] {
-      SelectDay({month_.year, month_.month, std::stoi(screen_.calendar.days[i].caption())});
-    });
-  }
 
   house_.pin.show_pin_boxes = [this](bool visible) { ShowPinBoxes(visible); };
   house_.pin.restrict_pages = [this](bool admin) { RestrictPages(admin); };
@@ -355,39 +346,13 @@ void Options::MoveGenre(ItemList& from, ItemList& to, const char* heading) {
   });
 }
 
-void Options::StepMonth(int by) {
-  const long month = month_.year * 12L + month_.month - 1 + by;
-  month_ = {static_cast<int>(month / 12), static_cast<int>(month % 12) + 1, 1};
-  ShowMonth();
-}
-
 void Options::SelectDay(const Date& day) {
   state_.day = day;
-  month_ = {day.year, day.month, 1};
   calendar_heading_->SetCaption("Calendar Settings For: " + DateText(day));
-  ShowMonth();
+  month_.Show(day);
   // A day without a file leaves the page as it is.
   house_.calendar.Load(day, state_.of_day);
   Refresh();
-}
-
-void Options::ShowMonth() {
-  OptionCalendar& calendar = screen_.calendar;
-  const Date next{month_.year + month_.month / 12, month_.month % 12 + 1, 1};
-  const long days = DaysBetween(month_, next);
-  const Date sunday{2023, 1, 1};
-  const long from_sunday = DaysBetween(sunday, month_);
-  const long blanks = from_sunday - FloorDiv(from_sunday, 7) * 7;
-  const auto& months = house_.form1.decades.month_buttons;
-  calendar.month.SetCaption(months[static_cast<size_t>(month_.month - 1)].caption() + " " +
-                            std::to_string(month_.year));
-  for (size_t i = 0; i < calendar.days.size(); ++i) {
-    const long day = static_cast<long>(i) - blanks + 1;
-    calendar.days[i].SetVisible(day >= 1 && day <= days);
-    calendar.days[i].SetCaption(std::to_string(day));
-    calendar.days[i].SetChecked(state_.day ==
-                                Date{month_.year, month_.month, static_cast<int>(day)});
-  }
 }
 
 }  // namespace sonotik

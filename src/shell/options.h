@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "shell/option_entry.h"
+#include "shell/option_month.h"
 #include "shell/options_table.h"
 
 namespace sonotik {
@@ -63,19 +64,17 @@ class Options {
   void RestrictPages(bool admin);
   void MoveGenre(ItemList& from, ItemList& to, const char* heading);
 
-  void StepMonth(int by);
   void SelectDay(const Date& day);
-  void ShowMonth();
 
   Assembly& house_;
   SettingsEffects& effects_;
   OptionsScreen& screen_;
   OptionEntry entry_;
+  OptionMonth month_;
   OptionsState state_;
   OptionCommands commands_;
   std::vector<std::unique_ptr<Shown>> shown_;
   Label* calendar_heading_ = nullptr;
-  Date month_;  // the first day of the one that shows
 };
 
 }  // namespace sonotik
