@@ -47,6 +47,18 @@ make_jukebox() {
   mapfile -t tracks < <(find "$1" -name '*.mp3' | sort)
 }
 
+# settings [LABEL VALUE]...: sonotik.ini as delivered, but for these rows. A value of two lines stands
+# in the place of two.
+settings() {
+  awk '
+    BEGIN { for (i = 1; i < ARGC - 1; i += 2) { value[ARGV[i]] = ARGV[i + 1]; ARGV[i] = ARGV[i + 1] = "" } }
+    { print; sub(/\r$/, "") }
+    $0 in value { rows = value[$0]
+                  for (i = split(rows, lines, "/"); i > 0; i--) getline
+                  gsub("/", "\r\n", rows); print rows "\r" }' \
+    "$@" "$demo/sonotik.def" >"$demo/sonotik.ini"
+}
+
 # The start's progress is a window of the same name, so the jukebox's own is told by its skin's width.
 window_width() { xdotool getwindowgeometry --shell "$1" 2>/dev/null | sed -n 's/^WIDTH=//p'; }
 wears() {
