@@ -126,8 +126,13 @@ void SettingsEffects::ApplySkin() {
 }
 
 void SettingsEffects::PutOnSkin(const std::string& skin) {
+  const std::string not_found = house_.covers.NotFoundPicture();
   house_.settings.current_skin = skin;
   ApplySkin();
+  // What plays without a cover shows the picture of the skin that is worn.
+  if (house_.form1.now_playing_cover.picture() == not_found) {
+    house_.tracks.ShowCover(house_.covers.NotFoundPicture());
+  }
   if (house_.lists.cover_layouts.empty()) {
     house_.pages.read_albums3();
   } else {

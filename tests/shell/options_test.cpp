@@ -55,6 +55,7 @@ TEST_F(OptionsTest, AClickThatShowsOrHidesDoesSoAtOnce) {
 TEST_F(OptionsTest, ASkinIsPreviewedWhenItIsPickedAndWornFromItsApplyingOn) {
   folder.Write("skins/New/preview.jpg", "x");
   Open();
+  Advance(1);
   const std::string worn = house().settings.current_skin;
   Press(kLooks, "Appearance Options", "Refresh Skin List", K::kCommand);
   const ItemList& skins = house().lists.skins;
@@ -63,6 +64,7 @@ TEST_F(OptionsTest, ASkinIsPreviewedWhenItIsPickedAndWornFromItsApplyingOn) {
   EXPECT_TRUE(form().options.skin_preview.picture().ends_with("New\\preview.jpg"));
   EXPECT_EQ(house().settings.current_skin, worn);
   Press(kLooks, "Appearance Options", "Apply Skin", K::kCommand);
+  EXPECT_THAT(form().now_playing_cover.picture(), testing::HasSubstr("\\New\\"));
   Save();
   jukebox.reset();
   Start();
