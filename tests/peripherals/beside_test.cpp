@@ -12,7 +12,6 @@ class BesideTest : public JukeboxTest {
     settings.mute_line_in_on_play = true;
     settings.enable_mic_on_videos = true;
     settings.use_visualisations = true;
-    WriteDefaults();
     song = WriteTrack("Day", "1.wav");
     film = WriteTrack("Day", "2.mpg");
   }
@@ -20,7 +19,7 @@ class BesideTest : public JukeboxTest {
     machine.mixer.calls.clear();
     machine.processes.started.clear();
     machine.visualiser.calls.clear();
-    house().selection.Choose(path, PlayWay::kPlayNow);
+    Choose(path);
   }
   std::string song, film;
 };

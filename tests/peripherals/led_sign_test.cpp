@@ -58,7 +58,7 @@ TEST_F(SignTest, EachModelGetsItsFrameAndTheBadgeOrASignSwitchedOffNone) {
     Start();
     EXPECT_EQ(machine.sign_port.settings, "4800,E,7,1");
     EXPECT_EQ(machine.sign_port.number, 3);
-    house().selection.Choose(dawn, PlayWay::kPlayNow);
+    Choose(dawn);
     EXPECT_EQ(Sent(), each.track) << each.model;
     Advance(35);
     EXPECT_EQ(Sent(), each.nothing) << "when nothing plays any more";
@@ -81,7 +81,7 @@ TEST_F(SignTest, AFactTakesTheFirstLineAloneAndGivesItBackToTheTrack) {
   machine.player.lengths[dawn] = 100;
   WriteSign(1);
   Start();
-  house().selection.Choose(dawn, PlayWay::kPlayNow);
+  Choose(dawn);
   Calls both = BigBoard("Ada", "Dawn");
   for (const std::string& call : BigBoard("Rock & roll", "")) both.push_back(call);
   EXPECT_EQ(Sent(), both);
@@ -94,11 +94,11 @@ TEST_F(SignTest, APortThatIsNoneEndsTheStartOfATrackAndNotTheTicks) {
   WriteSign(0);
   Start();
   machine.sign_port.there = false;
-  EXPECT_THROW(house().selection.Choose(dawn, PlayWay::kPlayNow), RuntimeFailure);
+  EXPECT_THROW(Choose(dawn, PlayWay::kPlayNow), RuntimeFailure);
   EXPECT_EQ(machine.player.file, "");
   Advance(2);
   machine.sign_port.there = true;
-  house().selection.Choose(dawn, PlayWay::kPlayNow);
+  Choose(dawn);
   EXPECT_EQ(machine.player.file, dawn);
 }
 

@@ -155,8 +155,8 @@ TEST_F(StationTest, ATerminalHandsOverIntoItsBoxOrTheWorkingFolderAndPlaysNothin
   for (const std::string place : {"shared/", ""}) {
     BecomeTerminal(place.empty() ? "" : folder.path() + "\\shared\\");
     Start();
-    house().selection.Choose("\\m\\1.wav", PlayWay::kPlayNext);
-    house().selection.Choose(song, PlayWay::kPlayNow);
+    Choose("\\m\\1.wav", PlayWay::kPlayNext);
+    Choose(song);
     EXPECT_EQ(folder.Read(place + "Queue.QUE"), " 0 \r\n 1 \r\n\\m\\1.wav\r\n");
     EXPECT_EQ(folder.Read(place + "Queue 1.QUE"), " 1 \r\n 0 \r\n" + song + "\r\n");
     EXPECT_EQ(house().queue.count(), 0);
@@ -168,7 +168,6 @@ TEST_F(StationTest, ATerminalHandsOverIntoItsBoxOrTheWorkingFolderAndPlaysNothin
 
 TEST_F(StationTest, ATerminalTakesThePriceAndGivesItBackWhenItsShareIsGone) {
   settings.enable_credit_mode = true;
-  WriteDefaults();
   folder.Write("cost.dat", " 1 \r\n 1 \r\n 1 \r\n 1 \r\n 1 \r\n 1 \r\n 1 \r\n 1 \r\n 1 \r\n");
   BecomeTerminal(folder.path() + "\\shared\\");
   Start();

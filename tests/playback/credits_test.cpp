@@ -9,7 +9,6 @@ class CreditsTest : public JukeboxTest {
  protected:
   CreditsTest() {
     settings.enable_credit_mode = true;
-    WriteDefaults();
     // By column: Add To Queue, Play Next, Play Now for audio, then video, then karaoke.
     folder.Write("cost.dat", " 0 \r\n 2 \r\n 4 \r\n 1 \r\n 3 \r\n 5 \r\n 6 \r\n 7 \r\n 8 \r\n");
   }
@@ -41,12 +40,12 @@ TEST_F(CreditsTest, PricesAreSavedAsTheyWereRead) {
 TEST_F(CreditsTest, WithTooFewNothingIsAddedOrTaken) {
   Start();
   house().credits.Receive("2");
-  house().selection.Choose("\\m\\1.wav", PlayWay::kPlayNext);
+  Choose("\\m\\1.wav", PlayWay::kPlayNext);
   EXPECT_EQ(house().credits.count(), 2);
   EXPECT_EQ(house().queue.count(), 0);
   EXPECT_FALSE(folder.Has("queue.upl"));
   house().credits.Receive("1");
-  house().selection.Choose("\\m\\1.wav", PlayWay::kPlayNext);
+  Choose("\\m\\1.wav", PlayWay::kPlayNext);
   EXPECT_EQ(house().credits.count(), 0);
   EXPECT_EQ(house().queue.count(), 1);
 }
@@ -133,7 +132,7 @@ TEST_F(CreditsTest, WithoutPricesEverythingIsFree) {
   std::filesystem::remove(folder.native() / "cost.dat");
   Start();
   for (const PlayWay way : {PlayWay::kAddToQueue, PlayWay::kPlayNext}) {
-    house().selection.Choose("\\m\\1.wav", way);
+    Choose("\\m\\1.wav", way);
   }
   EXPECT_EQ(house().queue.count(), 2);
   EXPECT_EQ(house().credits.count(), 0);
@@ -153,9 +152,7 @@ TEST_F(CreditsTest, WithSomeCreditsInHandATouchBesideTheButtonsLeavesNothing) {
 TEST_F(CreditsTest, APriceComesBackOnlyForATrackThatNeverBegan) {
   const std::string path = WriteTrack("A", "1.wav");
   Start();
-  const auto play_now = [&] {
-    EXPECT_THROW(house().selection.Choose(path, PlayWay::kPlayNow), RuntimeFailure);
-  };
+  const auto play_now = [&] { EXPECT_THROW(Choose(path, PlayWay::kPlayNow), RuntimeFailure); };
   house().credits.Receive("10");
   house().tracks.hooks.mute_line_in = [] { throw RuntimeFailure("no mixer"); };
   house().settings.mute_line_in_on_play = true;

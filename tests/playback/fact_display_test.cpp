@@ -35,7 +35,7 @@ TEST_F(FactDisplayTest, FactsAreSpacedOverTheTrackAndAnEmptyOneUsesItsTurn) {
   std::vector<std::string> sign;
   house().fact_display.show_fact_on_sign = [&](const std::string& fact) { sign.push_back(fact); };
   house().fact_display.show_track_on_sign = [&] { sign.push_back("track"); };
-  house().selection.Choose(dawn, PlayWay::kPlayNow);
+  Choose(dawn);
   // Whatever screen the guest turns to.
   form().ShowScreen(screen::kNowPlaying);
   EXPECT_EQ(form().form.children().back(), &form().song_fact);
@@ -56,12 +56,12 @@ TEST_F(FactDisplayTest, FactsAreSpacedOverTheTrackAndAnEmptyOneUsesItsTurn) {
 
 TEST_F(FactDisplayTest, ATitleWithoutFactsHidesThemAndAnArtistWithoutLeavesThemToTheTick) {
   Start();
-  house().selection.Choose(dawn, PlayWay::kPlayNow);
+  Choose(dawn);
   EXPECT_EQ(Fact(), "1");
-  house().selection.Choose(noon, PlayWay::kPlayNow);
+  Choose(noon);
   EXPECT_EQ(Fact(), "-");
-  house().selection.Choose(dawn, PlayWay::kPlayNow);
-  house().selection.Choose(other, PlayWay::kPlayNow);
+  Choose(dawn);
+  Choose(other);
   EXPECT_EQ(Fact(), "1");
   Advance(1);
   EXPECT_EQ(Fact(), "-");
@@ -69,12 +69,11 @@ TEST_F(FactDisplayTest, ATitleWithoutFactsHidesThemAndAnArtistWithoutLeavesThemT
 
 TEST_F(FactDisplayTest, ThumbsStopAtThreeAndStayOverATrackStart) {
   settings.show_ratings_thumbs = true;
-  WriteDefaults();
   Start();
   form().ShowScreen(screen::kNowPlaying);
   for (int i = 0; i < 5; ++i) Click(form().now_playing.rating_up);
   EXPECT_EQ(house().rating.current(), 3);
-  house().selection.Choose(dawn, PlayWay::kPlayNow);
+  Choose(dawn);
   for (int i = 0; i < 9; ++i) Click(form().now_playing.rating_down);
   EXPECT_EQ(house().rating.current(), -3);
 }

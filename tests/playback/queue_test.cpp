@@ -55,7 +55,7 @@ TEST_F(QueueTest, ADamagedQueueNeverKeepsTheJukeboxFromStarting) {
 TEST_F(QueueTest, TheExportNamesEachEntry) {
   const std::string path = WriteTrack("Mix", "1.wav", "Ada", "Dawn");
   Start();
-  house().selection.Choose(path, PlayWay::kAddToQueue);
+  Choose(path, PlayWay::kAddToQueue);
   const std::string cover = AlbumPath("Mix") + "Cover.jpg";
   EXPECT_EQ(folder.Read("queue.upl"),
             " 1 \r\n" + path + "\r\n" + cover + "\r\nAda\r\nDawn\r\nMix\r\n\r\n\r\n");
@@ -63,9 +63,9 @@ TEST_F(QueueTest, TheExportNamesEachEntry) {
 
 TEST_F(QueueTest, PlayNextGoesBeforeAnEarlierPlayNext) {
   Start();
-  house().selection.Choose("\\m\\1.wav", PlayWay::kAddToQueue);
-  house().selection.Choose("\\m\\2.wav", PlayWay::kPlayNext);
-  house().selection.Choose("\\m\\3.wav", PlayWay::kPlayNext);
+  Choose("\\m\\1.wav", PlayWay::kAddToQueue);
+  Choose("\\m\\2.wav", PlayWay::kPlayNext);
+  Choose("\\m\\3.wav", PlayWay::kPlayNext);
   EXPECT_EQ(Paths(), (std::vector<std::string>{"\\m\\3.wav", "\\m\\2.wav", "\\m\\1.wav"}));
   EXPECT_EQ(house().playback.play_next_flag, 0);
 }
@@ -108,7 +108,6 @@ TEST_F(QueueTest, APartOfALongerPathCountsAsADuplicate) {
 TEST_F(QueueTest, ADuplicateIsFoundThroughTheNameOfASidecarToo) {
   const std::string path = WriteTrack("Q", "1.wav");
   settings.allow_duplicates_in_queue = false;
-  WriteDefaults();
   Start();
   queue().Append(path, "");
   house().play_options.show_play_options(path + ".tag", screen::kTrackList);
@@ -117,14 +116,13 @@ TEST_F(QueueTest, ADuplicateIsFoundThroughTheNameOfASidecarToo) {
 
 TEST_F(QueueTest, TheExportReadsAgainOnlyWhatHasChanged) {
   settings.use_second_monitor = true;
-  WriteDefaults();
   const std::string path = WriteTrack("Q", "1.wav", "Ada", "Dawn");
   const std::string damaged = WriteTrack("Q", "2.wav");
   folder.Write("music/Q/2.wav.tag", "too short");
   Start();
-  house().selection.Choose(path, PlayWay::kAddToQueue);
+  Choose(path, PlayWay::kAddToQueue);
   WriteTrack("Q", "1.wav", "Ada Two", "Dawn");
-  house().selection.Choose(damaged, PlayWay::kAddToQueue);
+  Choose(damaged, PlayWay::kAddToQueue);
   const std::string text = folder.Read("queue.upl");
   EXPECT_EQ(text.substr(0, 5), " 2 \r\n");
   EXPECT_NE(text.find("Ada Two\r\n"), std::string::npos);
@@ -156,7 +154,7 @@ class QueueScreenTest : public QueueTest {
     }
     Start();
     machine.player.lengths[paths[0]] = 9000;
-    house().selection.Choose(paths[0], PlayWay::kPlayNow);
+    Choose(paths[0]);
     for (size_t i = 1; i < paths.size(); ++i) queue().Append(paths[i], "");
     jukebox->menu.Open(MenuButton::kShowQueue);
   }
@@ -222,7 +220,7 @@ TEST_F(QueueTest, TheCommandsMoveAndRemoveTheChosenEntry) {
   Start();
   jukebox->menu.Open(MenuButton::kShowQueue);
   for (const char* name : {"1.wav", "2.wav", "3.wav"}) {
-    house().selection.Choose(AlbumPath("Q") + name, PlayWay::kAddToQueue);
+    Choose(AlbumPath("Q") + name, PlayWay::kAddToQueue);
   }
   house().queue_view.Update_queue2();
   const auto command = [&](QueueCommand which) -> lvButtons_H& {
@@ -243,7 +241,7 @@ TEST_F(QueueTest, TheCommandsMoveAndRemoveTheChosenEntry) {
   EXPECT_FALSE(folder.Has("queue.dat"));
   EXPECT_EQ(queue().count(), 0);
   house().settings.read_only_queue = true;
-  house().selection.Choose(AlbumPath("Q") + "1.wav", PlayWay::kAddToQueue);
+  Choose(AlbumPath("Q") + "1.wav", PlayWay::kAddToQueue);
   house().queue_view.Update_queue2();
   Click(form().queue.rows[0].touch);
   EXPECT_EQ(house().queue_view.selection(), -1);

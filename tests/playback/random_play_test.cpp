@@ -16,7 +16,6 @@ class RandomPlayTest : public JukeboxTest {
     settings.enable_random_play = true;
     settings.wait_between_tracks = "3";
     settings.do_not_repeat_count = 3;
-    WriteDefaults();
   }
   void WriteTracks(int count, const std::string& database = "Records.rec") {
     std::string bytes;
@@ -26,7 +25,6 @@ class RandomPlayTest : public JukeboxTest {
     }
     folder.Write(database, bytes);
   }
-  std::string Playing() { return machine.player.file; }
   std::vector<std::string> tracks;
 };
 
@@ -35,7 +33,7 @@ TEST_F(RandomPlayTest, MusicGoesOnAfterTheWaitAndIsTheMachinesOwn) {
   settings.use_second_monitor = true;
   settings.use_random_volume = true;
   settings.random_volume = -900;
-  WriteDefaults();
+  settings.main_volume = -300;
   WriteTracks(5);
   Start();
   house().selection.announce = [](bool) { FAIL(); };
@@ -44,7 +42,7 @@ TEST_F(RandomPlayTest, MusicGoesOnAfterTheWaitAndIsTheMachinesOwn) {
   Advance(2);
   EXPECT_NE(Playing(), "");
   EXPECT_EQ(machine.player.volume, -900);
-  EXPECT_EQ(FileLength(folder.path() + "\\Random_history.dat"), 1070);
+  EXPECT_EQ(Plays(kRandomHistory), 1U);
   EXPECT_FALSE(folder.Has("User_history.dat"));
   EXPECT_FALSE(house().playback.random_in_progress);
   EXPECT_EQ(house().credits.count(), 0);
@@ -52,11 +50,11 @@ TEST_F(RandomPlayTest, MusicGoesOnAfterTheWaitAndIsTheMachinesOwn) {
   house().queue.Append(tracks[0], "");
   Advance(31);
   EXPECT_EQ(Playing(), tracks[0]);
+  EXPECT_EQ(machine.player.volume, -300);
 }
 
 TEST_F(RandomPlayTest, SongsAreNotRepeatedWhileThereAreOthers) {
   settings.do_not_repeat = true;
-  WriteDefaults();
   WriteTracks(6);
   Start();
   std::vector<std::string> played;
@@ -79,15 +77,14 @@ TEST_F(RandomPlayTest, SongsAreNotRepeatedWhileThereAreOthers) {
 TEST_F(RandomPlayTest, OneTrackPlaysAgainAndACollectionThatIsGonePlaysNothing) {
   settings.do_not_repeat = true;
   settings.do_not_repeat_count = 10;
-  WriteDefaults();
   WriteTracks(1);
   Start();
   for (int i = 0; i < 20; ++i) house().random_play.Random_Play();
   EXPECT_EQ(Playing(), tracks[0]);
-  EXPECT_EQ(FileLength(folder.path() + "\\Random_history.dat"), 20 * 1070);
+  EXPECT_EQ(Plays(kRandomHistory), 20U);
   std::filesystem::remove_all(folder.native() / "music");
   house().random_play.Random_Play();
-  EXPECT_EQ(FileLength(folder.path() + "\\Random_history.dat"), 20 * 1070);
+  EXPECT_EQ(Plays(kRandomHistory), 20U);
   house().settings.random_from_audio = false;
   house().random_play.Random_Play();
   EXPECT_FALSE(house().playback.random_in_progress);
@@ -95,7 +92,6 @@ TEST_F(RandomPlayTest, OneTrackPlaysAgainAndACollectionThatIsGonePlaysNothing) {
 
 TEST_F(RandomPlayTest, AGenreGivesAnyTrackOfAnyOfItsAlbums) {
   settings.random_from_genres = true;
-  WriteDefaults();
   WriteTracks(2);
   const std::string rock = WriteTrack("Rock", "1.wav");
   WriteAlbums({{"Rock", "Ada"}, {"gone", "Bob"}}, "genres/Rock.cvr");
@@ -117,7 +113,6 @@ TEST_F(RandomPlayTest, AJingleComesByCountAndAMissingFolderCostsARound) {
   settings.jingle_song_count = 0;
   settings.wait_between_tracks = "";
   settings.jingle_path = folder.path() + "\\music\\Jingles";
-  WriteDefaults();
   WriteTracks(3);
   const std::string jingle = WriteTrack("Jingles", "j.wav");
   Start();

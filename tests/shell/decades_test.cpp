@@ -10,11 +10,7 @@ namespace {
 class DecadesTest : public JukeboxTest {
  protected:
   void AddTrack(const std::string& path, const std::string& artist, const std::string& track) {
-    TrackRecord record;
-    PutField(record.bytes, TrackRecord::kPath.offset, TrackRecord::kPath.width, path);
-    PutField(record.bytes, TrackRecord::kArtist.offset, TrackRecord::kArtist.width, artist);
-    PutField(record.bytes, TrackRecord::kTrack.offset, TrackRecord::kTrack.width, track);
-    records.append(record.bytes.data(), record.bytes.size());
+    records += TrackBytes(path, track, artist);
     folder.Write("Records.rec", records);
   }
   // Ten lines, those given first.
@@ -27,13 +23,10 @@ class DecadesTest : public JukeboxTest {
   static std::string Plain(std::vector<std::string> lines) {
     return Chart(std::move(lines), "\"nobody at all\",\"nothing\",\"\"");
   }
-  void Open() { Click(form().menu_buttons[static_cast<size_t>(MenuButton::kDecades)]); }
+  void Open() { PressMenu(MenuButton::kDecades); }
   void Step(DecadesStep step) { Click(form().decades.steps[static_cast<size_t>(step)]); }
   ChartRow& Row(size_t row) { return form().decades.rows[row]; }
   std::string Path(int row) { return house().charts.PathOfRow(row); }
-  std::string Headings() {
-    return form().decades.month_caption.caption() + " " + form().decades.year_caption.caption();
-  }
 
   std::string records;
 };
@@ -43,26 +36,23 @@ constexpr char kMonth[] = "history/2024/01.txt";
 TEST_F(DecadesTest, MonthsWrapWithinTheirYearAndYearsEndAtBothEnds) {
   Start();
   Open();
-  EXPECT_EQ(Headings(), "JANUARY 2024");
-  Step(DecadesStep::kMonthBack);
-  EXPECT_EQ(Headings(), "DECEMBER 2024");
-  EXPECT_EQ(house().decades.chart_path(), folder.path() + "\\history\\2024\\12.txt");
-  Step(DecadesStep::kYearOn);
-  EXPECT_EQ(Headings(), "DECEMBER 2024");
-  Step(DecadesStep::kMonthOn);
-  Step(DecadesStep::kYearBack);
-  EXPECT_EQ(Headings(), "JANUARY 2023");
-  Click(form().decades.year_caption);
-  EXPECT_TRUE(form().decades.year_picker.visible());
-  Click(form().decades.year_buttons[0]);
-  EXPECT_FALSE(form().decades.year_picker.visible());
-  Step(DecadesStep::kYearBack);
-  EXPECT_EQ(Headings(), "JANUARY 1953");
-  Click(form().decades.month_caption);
-  EXPECT_EQ(form().decades.month_buttons[1].caption(), "Feburary");
-  Click(form().decades.month_buttons[1]);
-  EXPECT_FALSE(form().decades.month_picker.visible());
-  EXPECT_EQ(Headings(), "FEBRUARY 1953");
+  DecadesScreen& screen = form().decades;
+  EXPECT_EQ(screen.month_buttons[1].caption(), "Feburary");
+  using enum DecadesStep;
+  const auto step = [&](DecadesStep which) { return &screen.steps[static_cast<size_t>(which)]; };
+  const std::pair<const Control*, const char*> presses[] = {
+      {step(kMonthBack), "DECEMBER 2024"},        {step(kYearOn), "DECEMBER 2024"},
+      {step(kMonthOn), "JANUARY 2024"},           {step(kYearBack), "JANUARY 2023"},
+      {&screen.year_caption, "JANUARY 2023"},     {&screen.year_buttons[0], "JANUARY 1953"},
+      {step(kYearBack), "JANUARY 1953"},          {&screen.month_caption, "JANUARY 1953"},
+      {&screen.month_buttons[1], "FEBRUARY 1953"}};
+  for (const auto& [control, headings] : presses) {
+    Click(*control);
+    EXPECT_EQ(screen.month_caption.caption() + " " + screen.year_caption.caption(), headings);
+    EXPECT_EQ(screen.year_picker.visible(), control == &screen.year_caption);
+    EXPECT_EQ(screen.month_picker.visible(), control == &screen.month_caption);
+  }
+  EXPECT_EQ(house().decades.chart_path(), folder.path() + "\\history\\1953\\02.txt");
   EXPECT_EQ(Row(9).artist.caption(), "CHART NOT FOUND");
   EXPECT_EQ(Row(9).track.caption(), "CHART NOT FOUND");
 }
@@ -78,13 +68,10 @@ TEST_F(DecadesTest, ALineIsJoinedWithTheFirstRecordThatHoldsTheStartsOfItsNames)
                Plain({"\" ADA LOvejoy\",\"Dawn Choir, the\",\"\"", "Zoe,End,",
                       "The Ada Band,\"at dawn ch\",", "\"Simon & Ada\",R&B,", "Zo,en,x.gif"}));
   Start();
-  EXPECT_EQ(Path(0), "\\m\\1.mp3");
-  EXPECT_EQ(Path(1), "\\m\\last.mp3");
-  EXPECT_EQ(Path(2), "\\m\\1.mp3");
-  EXPECT_EQ(Path(3), "\\m\\3.mp3");
-  EXPECT_EQ(Path(4), "\\m\\last.mp3");
   // "NOBODY " with the blank is in no name that ends there.
-  EXPECT_EQ(Path(5), "");
+  const char* const paths[] = {"\\m\\1.mp3", "\\m\\last.mp3", "\\m\\1.mp3",
+                               "\\m\\3.mp3", "\\m\\last.mp3", ""};
+  for (int row = 0; row < 6; ++row) EXPECT_EQ(Path(row), paths[row]) << row;
   Open();
   EXPECT_EQ(Row(3).artist.caption(), "( 4) Simon && Ada");
   EXPECT_EQ(Row(3).track.caption(), "R&&B");
@@ -196,17 +183,13 @@ TEST_F(DecadesTest, OnlyPicturesThatAreThereAreShown) {
 }
 
 TEST_F(DecadesTest, RowsPlayAndQueueForMoneyWhatTheyHave) {
-  settings.enable_credit_mode = true;
   settings.allow_duplicates_in_queue = false;
-  WriteDefaults();
-  folder.Write("cost.dat", " 1 \r\n 1 \r\n 1 \r\n 1 \r\n 1 \r\n 1 \r\n 1 \r\n 1 \r\n 1 \r\n");
   const std::string dawn = WriteTrack("Day", "1.wav", "Ada", "Dawn");
   const std::string noon = WriteTrack("Day", "2.wav", "Ada", "Noon");
   AddTrack(dawn, "Ada", "Dawn");
   AddTrack(noon, "Ada", "Noon");
   folder.Write(kMonth, Plain({"Ada,Dawn,", "Ada,Noon,"}));
-  Start();
-  house().credits.Receive("9");
+  StartPaid(9);
   Open();
   Click(Row(0).play_now);
   EXPECT_EQ(machine.player.file, dawn);

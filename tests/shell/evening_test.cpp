@@ -7,29 +7,16 @@
 namespace sonotik {
 namespace {
 
-class EveningTest : public JukeboxTest {
+class EveningTest : public DayTest {
  protected:
-  EveningTest() {
-    for (const char* title : {"Dawn", "Noon", "Dusk"}) {
-      tracks.push_back(WriteTrack("Day", std::to_string(tracks.size() + 1) + " " + title + ".wav",
-                                  "Ada", title));
-    }
-    WriteAlbums({{"Day", "Ada"}});
-  }
-  std::string Playing() { return machine.player.file; }
   std::string Title() { return form().now_playing_title.caption(); }
-  int Plays(const char* history = kUserHistory) {
-    const std::string path = folder.path() + "\\" + history;
-    return FileExists(path) ? static_cast<int>(FileLength(path) / 1070) : 0;
-  }
-  std::vector<std::string> tracks;
+  void Press(PlayerButton button) { Click(form().player_buttons[static_cast<size_t>(button)]); }
 };
 
 TEST_F(EveningTest, AGuestPicksACoverATrackAndHearsIt) {
   Start();
-  Click(form().album.covers[0].cover);
+  OpenOptions(1);
   EXPECT_EQ(form().track_list.rows[1].title.caption(), "Noon");
-  Click(form().track_list.rows[1].title);
   EXPECT_EQ(form().play_options.title.caption(), "Noon");
   Click(form().play_options.play_now);
   EXPECT_EQ(Playing(), tracks[1]);
@@ -39,7 +26,7 @@ TEST_F(EveningTest, AGuestPicksACoverATrackAndHearsIt) {
   Advance(5);
   EXPECT_EQ(form().position.caption().substr(0, 3), "0:0");
   EXPECT_NE(form().position.caption(), "0:00");
-  EXPECT_EQ(Plays(), 1);
+  EXPECT_EQ(Plays(), 1U);
   Click(form().track_list.back);
   EXPECT_TRUE(form().panel(screen::kAlbum).visible());
   EXPECT_FALSE(form().panel(screen::kTrackList).visible());
@@ -47,23 +34,18 @@ TEST_F(EveningTest, AGuestPicksACoverATrackAndHearsIt) {
 
 TEST_F(EveningTest, TheNextEntryStartsOnTheTickThatEndsTheOneBefore) {
   Start();
-  for (const std::string& track : tracks) house().selection.Choose(track, PlayWay::kAddToQueue);
-  Advance(1);
-  EXPECT_EQ(Playing(), tracks[0]);
-  EXPECT_EQ(house().queue.count(), 2);
-  EXPECT_EQ(form().now_playing.next_song_title.caption(), "Noon");
-  machine.player.Add(30);
-  Advance(1);
-  EXPECT_EQ(Playing(), tracks[1]);
-  machine.player.Add(30);
-  Advance(1);
-  EXPECT_FALSE(form().now_playing.next_song.visible());
-  machine.player.Add(30);
+  for (const std::string& track : tracks) Choose(track, PlayWay::kAddToQueue);
+  for (const std::string& track : tracks) {
+    Advance(1);
+    EXPECT_EQ(Playing(), track);
+    EXPECT_EQ(form().now_playing.next_song.visible(), track != tracks[2]);
+    machine.player.Add(30);
+  }
   Advance(1);
   EXPECT_FALSE(machine.player.playing());
   EXPECT_EQ(Title(), kNoSongPlaying);
   EXPECT_EQ(form().position.caption(), "0:00");
-  EXPECT_EQ(Plays(), 3);
+  EXPECT_EQ(Plays(), 3U);
 }
 
 TEST_F(EveningTest, TheIndicatorMovesOnlyWhileSomethingSounds) {
@@ -96,40 +78,32 @@ TEST_F(EveningTest, FilesThatAreGoneOrDamagedNeverStopTheQueue) {
 }
 
 TEST_F(EveningTest, APausedTrackNeverEndsAndDropsPlayNow) {
-  settings.enable_credit_mode = true;
-  WriteDefaults();
-  folder.Write("cost.dat", " 1 \r\n 1 \r\n 1 \r\n 1 \r\n 1 \r\n 1 \r\n 1 \r\n 1 \r\n 1 \r\n");
-  Start();
-  house().credits.Receive("5");
-  house().selection.Choose(tracks[0], PlayWay::kPlayNow);
-  Click(form().player_buttons[static_cast<size_t>(PlayerButton::kPause)]);
+  StartPaid(5);
+  Choose(tracks[0]);
+  Press(PlayerButton::kPause);
   EXPECT_TRUE(form().paused.visible());
   machine.player.SetPosition(30);
   Advance(3);
-  EXPECT_EQ(Plays(), 1);
-  house().selection.Choose(tracks[1], PlayWay::kPlayNow);
+  EXPECT_EQ(Plays(), 1U);
+  Choose(tracks[1]);
   EXPECT_EQ(Playing(), tracks[0]);
   EXPECT_EQ(house().queue.count(), 0);
   EXPECT_EQ(house().credits.count(), 1) << "dropped, and paid all the same";
   machine.player.SetPosition(10);
-  Click(form().player_buttons[static_cast<size_t>(PlayerButton::kPause)]);
+  Press(PlayerButton::kPause);
   EXPECT_TRUE(machine.player.playing());
-  Click(form().player_buttons[static_cast<size_t>(PlayerButton::kNext)]);
+  Press(PlayerButton::kNext);
   house().queue.Append(tracks[2], "");
   Advance(1);
   EXPECT_EQ(Playing(), tracks[2]);
 }
 
 TEST_F(EveningTest, AButtonThatStartsAMissingFileLeavesTheTickOffUntilAStartSucceeds) {
-  settings.enable_credit_mode = true;
-  WriteDefaults();
-  folder.Write("cost.dat", " 1 \r\n 1 \r\n 1 \r\n 1 \r\n 1 \r\n 1 \r\n 1 \r\n 1 \r\n 1 \r\n");
-  Start();
-  house().credits.Receive("5");
-  house().selection.Choose(folder.path() + "\\gone.wav", PlayWay::kPlayNow);
+  StartPaid(5);
+  Choose(folder.path() + "\\gone.wav");
   EXPECT_FALSE(house().state_timer.enabled());
   EXPECT_EQ(house().credits.count(), 3) << "paid all the same";
-  house().selection.Choose(tracks[0], PlayWay::kPlayNow);
+  Choose(tracks[0]);
   EXPECT_TRUE(house().state_timer.enabled());
 }
 
@@ -137,79 +111,39 @@ TEST_F(EveningTest, KaraokePlaysTheCdgUnderTheNamesOfTheMp3) {
   folder.Write("music/Day/Song.mp3", "x");
   folder.Write("music/Day/Song.cdg", "x");
   Start();
-  house().selection.Choose(AlbumPath("Day") + "Song.mp3", PlayWay::kPlayNow);
+  Choose(AlbumPath("Day") + "Song.mp3");
   EXPECT_EQ(Playing(), AlbumPath("Day") + "Song.CDG");
   EXPECT_TRUE(form().now_playing.video.visible());
   EXPECT_EQ(house().playback.current_track_path, AlbumPath("Day") + "Song.CDG");
   // The sidecar's name plays its file, as audio.
-  house().selection.Choose(tracks[0] + ".tag", PlayWay::kPlayNow);
+  Choose(tracks[0] + ".tag");
   EXPECT_EQ(Playing(), tracks[0]);
   EXPECT_FALSE(form().now_playing.video.visible());
   Advance(2);
   // An M4A counts as a video.
   folder.Write("music/Day/x.m4a", std::string(70000, '\0'));
-  house().selection.Choose(AlbumPath("Day") + "x.m4a", PlayWay::kPlayNow);
+  Choose(AlbumPath("Day") + "x.m4a");
   EXPECT_TRUE(form().now_playing.video.visible());
 }
 
 TEST_F(EveningTest, RestartDoesNothingToAPausedTrack) {
   Start();
-  house().selection.Choose(tracks[0], PlayWay::kPlayNow);
+  Choose(tracks[0]);
   Advance(5);
-  jukebox->navigation.PressPlayer(PlayerButton::kPause);
+  Press(PlayerButton::kPause);
   const double position = house().engine.MediaPosition();
   EXPECT_GT(position, 4);
-  jukebox->navigation.PressPlayer(PlayerButton::kRestart);
+  Press(PlayerButton::kRestart);
   EXPECT_EQ(house().engine.MediaPosition(), position);
   EXPECT_TRUE(house().playback.paused);
-  jukebox->navigation.PressPlayer(PlayerButton::kPause);
-  jukebox->navigation.PressPlayer(PlayerButton::kRestart);
+  Press(PlayerButton::kPause);
+  Press(PlayerButton::kRestart);
   EXPECT_LT(house().engine.MediaPosition(), 1);
   EXPECT_TRUE(machine.player.playing());
 }
 
-TEST_F(EveningTest, TheRandomVolumeBelongsToTheMachinesOwnTracks) {
-  settings.use_random_volume = true;
-  settings.main_volume = -300;
-  settings.random_volume = -900;
-  WriteDefaults();
-  Start();
-  house().selection.Choose(tracks[0], PlayWay::kPlayNow);
-  EXPECT_EQ(machine.player.volume, -300);
-  house().playback.random_in_progress = true;
-  house().playback.play_now_flag = 1;
-  house().selection.add_queue4(tracks[1]);
-  house().playback.play_now_flag = 0;
-  EXPECT_EQ(machine.player.volume, -900);
-  EXPECT_EQ(Plays(kRandomHistory), 1);
-}
-
-TEST_F(EveningTest, ATrackStartDoesItsStepsInOrder) {
-  settings.mute_line_in_on_play = settings.enable_mic_on_videos = true;
-  settings.use_visualisations = settings.use_second_monitor = true;
-  WriteDefaults();
-  Start();
-  std::vector<std::string> steps;
-  TrackStartHooks& hooks = house().tracks.hooks;
-  hooks.mute_line_in = [&] { steps.push_back("line"); };
-  hooks.send_to_sign = [&] { steps.push_back("sign " + house().fields.txtTitle); };
-  hooks.start_visualisation = [&] { steps.push_back("visualise"); };
-  hooks.close_visualisation = [&] { steps.push_back("close"); };
-  hooks.mute_microphone = [&](bool mute) { steps.push_back(mute ? "mute" : "unmute"); };
-  hooks.show_second_monitor = [&](bool show) { steps.push_back(show ? "show" : "hide"); };
-  hooks.start_song_facts = [&] { steps.push_back("facts " + std::to_string(Plays())); };
-  house().selection.Choose(tracks[0], PlayWay::kPlayNow);
-  EXPECT_EQ(steps, (std::vector<std::string>{"line", "sign Dawn", "visualise", "mute", "facts 1"}));
-  steps.clear();
-  folder.Write("music/Day/clip.mpg", "x");
-  house().selection.Choose(AlbumPath("Day") + "clip.mpg", PlayWay::kPlayNow);
-  EXPECT_EQ(steps, (std::vector<std::string>{"line", "sign No Tag", "close", "unmute", "show",
-                                             "facts 2"}));
-}
-
-TEST_F(EveningTest, IdleTimeLeadsToTheNowPlayingScreenAndATouchResetsIt) {
+TEST_F(EveningTest, IdleTimeLeadsToTheNowPlayingScreenUnlessATouchOrTheOptionsHoldIt) {
   settings.now_playing_wait = "5";
-  WriteDefaults();
   Start();
   Advance(5);
   form().form.PressMouse({2, 2});
@@ -218,14 +152,7 @@ TEST_F(EveningTest, IdleTimeLeadsToTheNowPlayingScreenAndATouchResetsIt) {
   Advance(3);
   EXPECT_TRUE(form().panel(screen::kNowPlaying).visible());
   EXPECT_FALSE(form().panel(screen::kAlbum).visible());
-}
-
-TEST_F(EveningTest, TheOptionsScreenHoldsTheIdleChainUntilItCloses) {
-  settings.now_playing_wait = "";
-  WriteDefaults();
-  Start();
-  form().HideAllScreens();
-  form().ShowScreen(screen::kOptions);
+  jukebox->menu.Open(MenuButton::kOptions);
   Advance(20);
   EXPECT_FALSE(form().panel(screen::kNowPlaying).visible());
   form().HideAllScreens();
@@ -236,14 +163,12 @@ TEST_F(EveningTest, TheOptionsScreenHoldsTheIdleChainUntilItCloses) {
 TEST_F(EveningTest, ThePositionLabelStandsStillFromAThousandSecondsOn) {
   machine.player.lengths[tracks[0]] = 4000;
   Start();
-  house().selection.Choose(tracks[0], PlayWay::kPlayNow);
-  machine.player.SetPosition(998);
-  Advance(1);
-  const std::string last = form().position.caption();
-  EXPECT_EQ(last, "16:39");
-  machine.player.SetPosition(2000);
-  Advance(2);
-  EXPECT_EQ(form().position.caption(), last);
+  Choose(tracks[0]);
+  for (const double position : {998.0, 2000.0}) {
+    machine.player.SetPosition(position);
+    Advance(1);
+    EXPECT_EQ(form().position.caption(), "16:39");
+  }
 }
 
 TEST_F(EveningTest, TheTimedExitSavesTheQueueAndLeaves) {
@@ -251,11 +176,10 @@ TEST_F(EveningTest, TheTimedExitSavesTheQueueAndLeaves) {
   settings.exit_time = 25;  // 12:30
   settings.save_queue_on_shutdown = true;
   settings.shutdown_command = "/bin/sync";
-  WriteDefaults();
   Start();
-  house().selection.Choose(tracks[0], PlayWay::kPlayNow);
+  Choose(tracks[0]);
   machine.player.lengths[tracks[0]] = 9000;
-  house().selection.Choose(tracks[1], PlayWay::kAddToQueue);
+  Choose(tracks[1], PlayWay::kAddToQueue);
   Advance(5);
   EXPECT_FALSE(machine.events.left);
   EXPECT_FALSE(jukebox->MayClose());
@@ -270,7 +194,6 @@ TEST_F(EveningTest, TheTimedExitSavesTheQueueAndLeaves) {
 
 TEST_F(EveningTest, LeavingBeforeTheQueueWasReadLeavesItsFileAlone) {
   settings.save_queue_on_shutdown = true;
-  WriteDefaults();
   std::filesystem::remove(folder.native() / "Records.rec");
   const std::string saved = " 1 \r\na\r\nb\r\n\r\n\r\n";
   folder.Write("queue.dat", saved);
@@ -293,22 +216,18 @@ TEST_F(EveningTest, AskedToEndDuringTheStartSoundItStaysEnded) {
 }
 
 TEST_F(EveningTest, WhatFailsBehindAnAddIsChargedAndAddedOnceAndTheScreenGoes) {
-  settings.enable_credit_mode = true;
-  WriteDefaults();
-  folder.Write("cost.dat", " 0 \r\n 0 \r\n 0 \r\n 0 \r\n 0 \r\n 0 \r\n 0 \r\n 0 \r\n 0 \r\n");
   // queue.upl can't be written over a folder.
   folder.Write("queue.upl/x", "");
-  Start();
-  house().credits.Receive("9");
-  Click(form().album.covers[0].cover);
-  Click(form().track_list.rows[0].title);
+  StartPaid(12);
+  OpenOptions(0);
   Click(form().play_options.add_to_queue);
   EXPECT_FALSE(form().panel(screen::kPlayOptions).visible());
-  EXPECT_EQ(house().queue.count(), 1);
-  EXPECT_EQ(house().credits.count(), 8);
-  Click(form().track_list.add_entire_album);
-  EXPECT_EQ(house().queue.count(), 4);
-  EXPECT_EQ(house().credits.count(), 5);
+  EXPECT_EQ(Queued().size(), 1U);
+  EXPECT_EQ(house().credits.count(), 10);
+  // A whole album is taken once.
+  for (int i = 0; i < 2; ++i) Click(form().track_list.add_entire_album);
+  EXPECT_EQ(Queued().size(), 4U);
+  EXPECT_EQ(house().credits.count(), 4);
   EXPECT_EQ(house().boundary.failures(), 4);
 }
 
@@ -343,32 +262,6 @@ TEST_F(EveningTest, AHistoryThatCanNotBeWrittenCostsItsRecordAlone) {
   EXPECT_EQ(folder.Read("queue.upl").substr(0, 3), " 1 ");
 }
 
-TEST_F(EveningTest, AnAddIsAnnouncedAndTheTickerHidesAfterTenTicks) {
-  settings.use_second_monitor = true;
-  WriteDefaults();
-  Start();
-  std::string announced;
-  house().selection.announce = [&](bool next) {
-    announced += house().fields.txtTitle + (next ? " next," : " queued,");
-  };
-  bool ticker = true;
-  jukebox->ticks.hooks.ticker_visible = [&] { return ticker; };
-  jukebox->ticks.hooks.hide_ticker = [&] { ticker = false; };
-  house().selection.Choose(tracks[0], PlayWay::kPlayNow);
-  house().selection.Choose(tracks[1], PlayWay::kAddToQueue);
-  house().selection.Choose(tracks[2], PlayWay::kPlayNext);
-  EXPECT_EQ(announced, "Noon queued,Dusk next,");
-  house().settings.use_second_monitor = false;
-  Advance(20);
-  EXPECT_TRUE(ticker);
-  house().settings.use_second_monitor = true;
-  Advance(9);
-  EXPECT_TRUE(ticker);
-  Advance(1);
-  EXPECT_FALSE(ticker);
-  EXPECT_EQ(house().state.ticker_seconds, 0);
-}
-
 TEST_F(EveningTest, AFailingHandlerGivesItsTimerBack) {
   Start();
   jukebox->ticks.hooks.ticker_visible = []() -> bool { throw RuntimeFailure("no ticker"); };
@@ -384,7 +277,6 @@ TEST_F(EveningTest, AFailingHandlerGivesItsTimerBack) {
 
 TEST_F(EveningTest, NothingIsPaintedWhileNothingChanges) {
   settings.show_time_and_date = false;
-  WriteDefaults();
   Start();
   Advance(3);
   form().form.TakeDirty();
@@ -394,28 +286,19 @@ TEST_F(EveningTest, NothingIsPaintedWhileNothingChanges) {
   EXPECT_EQ(dirtied, 0);
 }
 
-TEST_F(EveningTest, AWholeAlbumIsQueuedOnce) {
-  Start();
-  Click(form().album.covers[0].cover);
-  Click(form().track_list.add_entire_album);
-  Click(form().track_list.add_entire_album);
-  EXPECT_EQ(house().queue.count(), 3);
-}
-
 TEST_F(EveningTest, ADuplicateCanBeLeftByATouchOnly) {
   settings.allow_duplicates_in_queue = false;
-  WriteDefaults();
   Start();
   machine.player.lengths[tracks[0]] = 9000;
-  house().selection.Choose(tracks[0], PlayWay::kPlayNow);
-  house().selection.Choose(tracks[1], PlayWay::kAddToQueue);
-  Click(form().album.covers[0].cover);
-  Click(form().track_list.rows[1].title);
-  EXPECT_EQ(form().play_options.message.caption(), "Track Already In Queue");
-  EXPECT_FALSE(form().play_options.add_to_queue.visible());
-  EXPECT_TRUE(form().play_options.cancel.visible());
-  EXPECT_EQ(form().play_options.queue_line.caption(), "(1) Songs In Queue");
-  Click(form().play_options.message);
+  Choose(tracks[0]);
+  Choose(tracks[1], PlayWay::kAddToQueue);
+  OpenOptions(1);
+  const PlayOptionsScreen& screen = form().play_options;
+  EXPECT_EQ(screen.message.caption(), "Track Already In Queue");
+  EXPECT_FALSE(screen.add_to_queue.visible());
+  EXPECT_TRUE(screen.cancel.visible());
+  EXPECT_EQ(screen.queue_line.caption(), "(1) Songs In Queue");
+  Click(screen.message);
   EXPECT_FALSE(form().panel(screen::kPlayOptions).visible());
 }
 

@@ -17,7 +17,7 @@ class GenreTest : public JukeboxTest {
   void WriteGenres(int count) {
     for (int i = 1; i <= count; ++i) WriteGenre("Genre " + LastDigits(i, 2));
   }
-  void OpenScreen() { Click(form().menu_buttons[static_cast<size_t>(MenuButton::kGenres)]); }
+  void OpenScreen() { PressMenu(MenuButton::kGenres); }
   void OpenBar() {
     // A head of 1 is the bar; the file's missing rest costs its buttons their places only.
     folder.Write("skins/Plain/menu.ini", "1\r\n64\r\n1280\r\n");

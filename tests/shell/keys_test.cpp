@@ -10,7 +10,7 @@ class KeysTest : public JukeboxTest {
  protected:
   KeysTest() {
     for (int i = 1; i <= 15; ++i) {
-      WriteTrack("Long", LastDigitsOf(i) + ".wav", "Ada", "T" + std::to_string(i));
+      WriteTrack("Long", LastDigits(i, 2) + ".wav", "Ada", "T" + std::to_string(i));
     }
     std::vector<TestAlbum> albums = {{"Long", "Ada"}};
     for (int i = 2; i <= 30; ++i) albums.push_back({"B" + std::to_string(i), "Bob"});
@@ -19,14 +19,6 @@ class KeysTest : public JukeboxTest {
     std::string map;
     for (int slot = 0; slot < 35; ++slot) map += " " + std::to_string(40 + slot) + " \r\n";
     folder.Write("keyboard.dat", map);
-  }
-  static std::string LastDigitsOf(int i) { return (i < 10 ? "0" : "") + std::to_string(i); }
-
-  void Poll(int times = 1) {
-    for (int i = 0; i < times; ++i) {
-      machine.clock.Add(10);
-      machine.timers.FireDue();
-    }
   }
   // Held for so many polls, and let go for one.
   void Press(int code, int polls = 3) {
@@ -40,39 +32,28 @@ class KeysTest : public JukeboxTest {
 
 TEST_F(KeysTest, OnePressIsOneActionHoweverLongItIsHeld) {
   Start();
-  PressSlot(6, 50);
-  EXPECT_EQ(house().cursor.position(), 13);
-  PressSlot(6);
-  EXPECT_EQ(house().cursor.position(), 25);
-  PressSlot(6);
-  EXPECT_EQ(house().cursor.position(), 25);
-  PressSlot(5);
-  PressSlot(5);
-  EXPECT_EQ(house().cursor.position(), 1);
-  PressSlot(5);
-  EXPECT_EQ(house().cursor.position(), 1);
+  const struct {
+    int slot, polls, position;
+  } presses[] = {{6, 50, 13}, {6, 3, 25}, {6, 3, 25}, {5, 3, 13}, {5, 3, 1}, {5, 3, 1}};
+  for (const auto& press : presses) {
+    PressSlot(press.slot, press.polls);
+    EXPECT_EQ(house().cursor.position(), press.position);
+  }
 }
 
-TEST_F(KeysTest, TheTickGoesOnWhileAKeyIsHeld) {
-  Start();
-  house().selection.Choose(AlbumPath("Long") + "01.wav", PlayWay::kPlayNow);
-  house().selection.Choose(AlbumPath("Long") + "02.wav", PlayWay::kAddToQueue);
-  machine.keys.down.insert(40 + 12);
-  Advance(40);
-  EXPECT_EQ(machine.player.file, AlbumPath("Long") + "02.wav");
-}
-
-TEST_F(KeysTest, AKeyThatIsStuckInTheStartOfATrackDoesNotHoldIt) {
+TEST_F(KeysTest, AKeyThatIsHeldOrStuckInTheStartOfATrackStopsNoMusic) {
   Start();
   machine.events.on_pump = [&] {
     machine.keys.down.insert(40 + 13);
     Poll();
   };
-  house().selection.Choose(AlbumPath("Long") + "01.wav", PlayWay::kPlayNow);
+  Choose(AlbumPath("Long") + "01.wav");
   machine.events.on_pump = [] {};
   EXPECT_TRUE(form().panel(screen::kHistory).visible());
-  EXPECT_EQ(machine.player.file, AlbumPath("Long") + "01.wav");
-  EXPECT_TRUE(house().state_timer.enabled());
+  EXPECT_EQ(Playing(), AlbumPath("Long") + "01.wav");
+  Choose(AlbumPath("Long") + "02.wav", PlayWay::kAddToQueue);
+  Advance(40);
+  EXPECT_EQ(Playing(), AlbumPath("Long") + "02.wav");
 }
 
 TEST_F(KeysTest, TheSelectKeyOnTwoScreensActsOnceAPress) {
@@ -108,101 +89,93 @@ TEST_F(KeysTest, CoversAreMarkedOpenedAndTheirTracksTaken) {
   EXPECT_FALSE(form().panel(screen::kTrackList).visible());
 }
 
-TEST_F(KeysTest, AScrolledListYieldsTheFileOfTheUnscrolledRow) {
+TEST_F(KeysTest, AScrolledListYieldsTheFileOfTheUnscrolledRowAndARowWithoutATrackNothing) {
   Start();
   house().track_list.Open(AlbumPath("Long"));
   Click(form().track_list.down);
   EXPECT_EQ(form().track_list.rows[0].title.caption(), "T14");
   PressSlot(1);
+  EXPECT_TRUE(form().track_list.play_now.visible());
+  for (int i = 0; i < 2; ++i) PressSlot(1);
+  EXPECT_EQ(house().track_list.selected_row(), 2);
+  EXPECT_FALSE(form().track_list.play_now.visible());
+  EXPECT_FALSE(form().track_list.add_entire_album.visible());
+  for (int i = 0; i < 2; ++i) PressSlot(0);
   PressSlot(4);
   EXPECT_EQ(house().queue.path(0), AlbumPath("Long") + "01.wav");
 }
 
-TEST_F(KeysTest, ARowWithoutATrackOffersNothing) {
-  Start();
-  house().track_list.Open(AlbumPath("Long"));
-  Click(form().track_list.down);
-  PressSlot(1);
-  EXPECT_TRUE(form().track_list.play_now.visible());
-  PressSlot(1);
-  PressSlot(1);
-  EXPECT_EQ(house().track_list.selected_row(), 2);
-  EXPECT_FALSE(form().track_list.play_now.visible());
-  EXPECT_FALSE(form().track_list.add_entire_album.visible());
-}
-
 TEST_F(KeysTest, TheVolumeKeysRunAgainstTheirNamesAndStopInside) {
   Start();
-  house().settings.main_volume = -60;
-  PressSlot(10);
-  EXPECT_EQ(house().settings.main_volume, -90);
-  PressSlot(11);
-  PressSlot(11);
-  EXPECT_EQ(house().settings.main_volume, -30);
-  PressSlot(11);
-  EXPECT_EQ(house().settings.main_volume, -30);
+  int& volume = house().settings.main_volume;
+  const struct {
+    int slot, before, after;
+  } presses[] = {{10, -60, -90},
+                 {11, -90, -60},
+                 {11, -60, -30},
+                 {11, -30, -30},
+                 {10, kLeastVolume + 30, kLeastVolume + 30}};
+  for (const auto& press : presses) {
+    volume = press.before;
+    PressSlot(press.slot);
+    EXPECT_EQ(volume, press.after);
+  }
+  volume = -30;
   Click(form().player_buttons[static_cast<size_t>(PlayerButton::kVolumeUp)]);
-  EXPECT_EQ(house().settings.main_volume, 0);
-  house().settings.main_volume = kLeastVolume + 30;
-  PressSlot(10);
-  EXPECT_EQ(house().settings.main_volume, kLeastVolume + 30);
+  EXPECT_EQ(volume, 0);
 }
 
 TEST_F(KeysTest, PauseAndNextActOnTheTrackThatPlays) {
   Start();
-  house().selection.Choose(AlbumPath("Long") + "01.wav", PlayWay::kPlayNow);
-  PressSlot(8);
-  EXPECT_TRUE(house().playback.paused);
-  PressSlot(9);
-  EXPECT_FALSE(machine.player.playing());
-  PressSlot(8);
-  EXPECT_TRUE(machine.player.playing());
-  PressSlot(9);
-  EXPECT_FALSE(machine.player.playing());
+  Choose(AlbumPath("Long") + "01.wav");
+  for (const auto& [slot, plays] : {std::pair(8, false), {9, false}, {8, true}, {9, false}}) {
+    PressSlot(slot);
+    EXPECT_EQ(machine.player.playing(), plays);
+    EXPECT_EQ(house().playback.paused, form().paused.visible());
+  }
   PressSlot(20);
-  EXPECT_TRUE(house().playback.random_mode_on);
-  EXPECT_TRUE(house().settings.enable_random_play);
+  EXPECT_TRUE(house().playback.random_mode_on && house().settings.enable_random_play);
   EXPECT_EQ(form().random.caption(), "Random ON");
 }
 
-TEST_F(KeysTest, TheQueueKeyShowsTheQueueAsItIsNow) {
+TEST_F(KeysTest, TheQueueKeyShowsTheQueueAsItIsNowAndTheSearchKeyBeginsAfresh) {
+  const auto track = [this](int i) { return AlbumPath("Long") + LastDigits(i, 2) + ".wav"; };
   Start();
-  machine.player.lengths[AlbumPath("Long") + "01.wav"] = 9000;
-  house().selection.Choose(AlbumPath("Long") + "01.wav", PlayWay::kPlayNow);
-  house().selection.Choose(AlbumPath("Long") + "02.wav", PlayWay::kAddToQueue);
-  house().selection.Choose(AlbumPath("Long") + "03.wav", PlayWay::kAddToQueue);
-  Click(form().menu_buttons[static_cast<size_t>(MenuButton::kShowQueue)]);
+  machine.player.lengths[track(1)] = 9000;
+  Choose(track(1));
+  for (int i : {2, 3}) Choose(track(i), PlayWay::kAddToQueue);
+  PressMenu(MenuButton::kShowQueue);
   Click(form().queue.rows[1].touch);
   Click(form().queue.back);
-  house().selection.Choose(AlbumPath("Long") + "04.wav", PlayWay::kPlayNext);
+  Choose(track(4), PlayWay::kPlayNext);
   PressSlot(16);
   EXPECT_EQ(form().queue.rows[0].track.caption(), "Track : T4");
   EXPECT_EQ(form().queue.rows[1].track.caption(), "Track : T2");
   // Left as it was chosen, unlike by the menu.
   EXPECT_EQ(house().queue_view.selection(), 1);
+  for (int i = 0; i < 2; ++i) {
+    PressSlot(15);
+    EXPECT_EQ(form().search.entry.caption(), "");
+    Click(form().search.keys[0]);
+    Click(form().search.back);
+  }
 }
 
-TEST_F(KeysTest, KeypadKeysAreStoredAndNeverAsked) {
-  Start();
-  for (int slot = 21; slot <= 33; ++slot) PressSlot(slot);
-  for (int slot = 21; slot <= 33; ++slot) EXPECT_FALSE(machine.keys.asked.contains(40 + slot));
-  EXPECT_TRUE(machine.keys.asked.contains(40 + 34));
-}
-
-TEST_F(KeysTest, PowerOffWaitsForTheKeyBeforeIt) {
+TEST_F(KeysTest, KeypadKeysAreStoredAndNeverAskedAndPowerOffWaitsForTheKeyBeforeIt) {
   Start();
   int offs = 0;
   jukebox->menu.hooks.power_down = [&] { ++offs; };
-  PressSlot(34, 3);
+  for (int slot = 21; slot <= 33; ++slot) PressSlot(slot);
+  for (int slot = 21; slot <= 33; ++slot) EXPECT_FALSE(machine.keys.asked.contains(40 + slot));
+  PressSlot(34);
   EXPECT_EQ(offs, 3);
   machine.keys.down.insert(40 + 20);
-  PressSlot(34, 3);
+  PressSlot(34);
   EXPECT_EQ(offs, 3);
 }
 
 TEST_F(KeysTest, WithoutKeyMappingOnlyEscapeLivesAndTheSpoolIsServed) {
   settings.disable_keymapping = true;
-  WriteDefaults();
   folder.Write("terminal.ini", "x\r\n\r\nTrue\r\nFalse\r\n");
   Start();
   PressSlot(6);

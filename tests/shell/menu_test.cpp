@@ -87,7 +87,6 @@ TEST_F(MenuTest, ThePinDecidesWhoSeesWhichSections) {
   settings.prompt_for_pin = true;
   settings.admin_pin = "12";
   settings.delegate_pin = "12";
-  WriteDefaults();
   folder.Write("permissions.ini",
                " 0 \r\n 1 \r\n 0 \r\n 0 \r\n 0 \r\n 0 \r\n 0 \r\n 1 \r\n 0 \r\n 0 \r\n");
   Start();
@@ -128,16 +127,21 @@ TEST_F(MenuTest, ThePinDecidesWhoSeesWhichSections) {
 
 TEST_F(MenuTest, ATrackForAdultsWantsThePinAndThenItsPlayOptions) {
   settings.admin_pin = "5";
-  WriteDefaults();
+  settings.enable_double_click = true;
   folder.Write("music/Night/1.wav", "x");
   std::string sidecar = Sidecar("Ada", "Dawn", "Night", "0:30");
   sidecar.replace(sidecar.find("<genre>"), 7, "<genre>Adult");
   folder.Write("music/Night/1.wav.tag", sidecar);
   WriteAlbums({{"Night", "Ada"}});
   Start();
+  const TrackListScreen& list = form().track_list;
   Click(form().album.covers[0].cover);
-  Click(form().track_list.rows[0].title);
+  Click(list.rows[0].title);
   EXPECT_FALSE(form().panel(screen::kPlayOptions).visible());
+  // Neither the second tap nor a button beside the PIN leads around it.
+  form().form.DoubleClickMouse(Middle(list.rows[0].title));
+  EXPECT_EQ(Playing(), "");
+  EXPECT_FALSE(list.play_now.visible() || list.add_to_queue.visible());
   EnterPin("5");
   EXPECT_EQ(Shown(), Screens{screen::kPlayOptions});
   EXPECT_EQ(form().play_options.title.caption(), "Dawn");

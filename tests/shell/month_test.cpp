@@ -28,13 +28,12 @@ TEST_F(AloneTest, AttractPicturesTakeTurnsWithWhatPlaysUntilATouch) {
   settings.attract_enabled = true;
   settings.attract_delay = "10";
   settings.animation_amount = "3";
-  WriteDefaults();
   folder.Write("pictures/a.jpg", "x");
   Start();
   house().settings.attract_path = folder.path() + "\\pictures";
   const std::string track = WriteTrack("Mix", "long.wav");
   machine.player.lengths[track] = 9000;
-  house().selection.Choose(track, PlayWay::kPlayNow);
+  Choose(track);
   Advance(17);
   EXPECT_FALSE(form().attract_picture.visible());
   Advance(3);
@@ -100,7 +99,6 @@ TEST_F(AloneTest, AMonthIsNeverSilentForLongerThanTheWait) {
   settings.jingle_path = folder.path() + "\\jingles";
   settings.attract_enabled = true;
   settings.attract_delay = "300";
-  WriteDefaults();
   WriteCollection(20);
   folder.Write("jingles/j.wav", "x");
   folder.Write("jingles/j.wav.tag", Sidecar("Us", "Jingle", "", "0:30"));

@@ -49,7 +49,6 @@ class SettingsTest : public OptionsTest {
     WriteAlbums({{"Night", "Eve"}}, "videos.cvr");
     WriteAlbums({{"Day", "Ada", "01/14/2024"}, {"Sung", "Ada"}});
     machine.displays.monitors.back().whole.left = 1280;
-    WriteDefaults();
   }
 
   Settings& now() { return house().settings; }
@@ -69,7 +68,7 @@ class SettingsTest : public OptionsTest {
     return form().track_list;
   }
   TestPlayer& Play(const std::string& path) {
-    house().selection.Choose(path, PlayWay::kPlayNow);
+    Choose(path);
     return machine.player;
   }
   std::string Queued() {
@@ -144,7 +143,7 @@ class SettingsTest : public OptionsTest {
     return Queued() + Screens();
   }
   void Find(const std::string& text) {
-    Click(form().menu_buttons[static_cast<size_t>(MenuButton::kSearch)]);
+    PressMenu(MenuButton::kSearch);
     Click(form().search_choice.modes[static_cast<size_t>(SearchMode::kTrack)]);
     for (const char c : text) {
       SearchScreen& screen = form().search;
@@ -305,7 +304,6 @@ TEST_F(SettingsTest, EachControlChangesItsOwnLineAndComesBackFromIt) {
     const OptionField* field = jukebox->options.Find(c.section, c.frame, c.caption, c.kind);
     values.emplace_back(field->value(), field->checked());
   }
-  jukebox.reset();
   Start();
   jukebox->options.Refresh();
   size_t at = 0;

@@ -10,7 +10,6 @@ namespace {
 
 TEST_F(OptionsTest, AClickThatShowsOrHidesDoesSoAtOnce) {
   settings.show_ratings_thumbs = true;
-  WriteDefaults();
   Open();
   const auto menu = [this](MenuButton b) { return &form().menu_buttons[static_cast<size_t>(b)]; };
   const auto player = [this](PlayerButton b) {
@@ -66,7 +65,6 @@ TEST_F(OptionsTest, ASkinIsPreviewedWhenItIsPickedAndWornFromItsApplyingOn) {
   Press(kLooks, "Appearance Options", "Apply Skin", K::kCommand);
   EXPECT_THAT(form().now_playing_cover.picture(), testing::HasSubstr("\\New\\"));
   Save();
-  jukebox.reset();
   Start();
   EXPECT_EQ(house().settings.current_skin, "New");
 }
@@ -107,7 +105,6 @@ TEST_F(OptionsTest, TheOtherFilesHoldTheirControlsToo) {
   EXPECT_EQ(folder.Read("betabrite.ini"),
             "Betabrite config\r\n9600,n,8,1\r\n 3 \r\n 0 \r\n 1 \r\n");
   EXPECT_EQ(folder.Read("terminal.ini"), "Terminal \\ Master config\r\n\r\nFalse\r\nTrue\r\n");
-  jukebox.reset();
   Start();
   EXPECT_TRUE(house().permissions.allowed(6));
   EXPECT_EQ(house().credits.ShownPrice(1, PlayWay::kPlayNext), 3);
@@ -198,7 +195,6 @@ TEST_F(OptionsTest, ADelegateChangesNeitherRightsNorTheEndOfTheSessionAndSavesAl
   settings.prompt_for_pin = true;
   settings.admin_pin = "1";
   settings.delegate_pin = "2";
-  WriteDefaults();
   folder.Write("permissions.ini",
                " 1 \r\n 0 \r\n 0 \r\n 0 \r\n 0 \r\n 0 \r\n 0 \r\n 0 \r\n 0 \r\n 0 \r\n");
   Start();

@@ -28,11 +28,7 @@ class SecondMonitorTest : public JukeboxTest {
   void PlugIn() {
     machine.displays.monitors = {{.whole = kFirst, .primary = true}, {.whole = kRoom}};
   }
-  Jukebox& StartWithSettings() {
-    WriteDefaults();
-    return Start();
-  }
-  void Play(const std::string& path) { house().selection.Choose(path, PlayWay::kPlayNow); }
+  void MoveSecondMonitor() { jukebox->effects.displays.MoveSecondMonitor(); }
   // Calls by which a player would be heard.
   int Heard() const {
     int heard = 0;
@@ -46,15 +42,15 @@ class SecondMonitorTest : public JukeboxTest {
 };
 
 TEST_F(SecondMonitorTest, TheTickerTellsOfAGuestsSongForTenSeconds) {
-  StartWithSettings();
-  Play(clip);
+  Start();
+  Choose(clip);
   const Panel& ticker = house().form3.ticker;
   EXPECT_FALSE(ticker.visible()) << "what plays at once is not announced";
-  house().selection.Choose(song, PlayWay::kAddToQueue);
+  Choose(song, PlayWay::kAddToQueue);
   EXPECT_EQ(house().form3.ticker_caption.caption(), "Ada && Co - Dawn Added to Queue...");
   EXPECT_TRUE(ticker.visible());
   Advance(9);
-  house().selection.Choose(song, PlayWay::kPlayNext);
+  Choose(song, PlayWay::kPlayNext);
   EXPECT_EQ(house().form3.ticker_caption.caption(), "Ada && Co - Dawn Added, will Play NEXT!");
   Advance(9);
   EXPECT_TRUE(ticker.visible()) << "the seconds begin anew";
@@ -65,20 +61,16 @@ TEST_F(SecondMonitorTest, TheTickerTellsOfAGuestsSongForTenSeconds) {
   EXPECT_FALSE(ticker.visible()) << "the machine's own choice";
   house().playback.random_in_progress = false;
   house().settings.use_second_monitor = false;
-  house().selection.Choose(song, PlayWay::kAddToQueue);
+  Choose(song, PlayWay::kAddToQueue);
   EXPECT_FALSE(ticker.visible());
 }
 
 TEST_F(SecondMonitorTest, FactsShowInBothWindowsWhetherOrNotTheSecondIsUsed) {
-  const auto field = [](std::string text, size_t width) {
-    return text.append(width - text.size(), ' ');
-  };
-  folder.Write("songfacts.dat", field("Ada & Co", 60) + field("Dawn", 60) +
-                                    field("Made & sung", 255) + std::string(4 * 255, ' '));
+  folder.Write("songfacts.dat", FactBytes("Ada & Co", "Dawn", {"Made & sung"}));
   machine.player.lengths[song] = 100;
   settings.use_second_monitor = false;
-  StartWithSettings();
-  Play(song);
+  Start();
+  Choose(song);
   EXPECT_TRUE(form().song_fact.visible());
   form().ShowScreen(screen::kNowPlaying);
   EXPECT_EQ(form().form.children().back(), &form().song_fact);
@@ -92,25 +84,21 @@ TEST_F(SecondMonitorTest, FactsShowInBothWindowsWhetherOrNotTheSecondIsUsed) {
 }
 
 TEST_F(SecondMonitorTest, StandsOnItsMonitorOrOnTheFirstUntilThatIsThere) {
-  const struct {
-    int number;
-    MonitorArea area;
-  } cases[] = {{0, kFirst}, {1, kRoom}, {2, kFirst}, {32767, kFirst}, {-1, kFirst}};
-  for (const auto& c : cases) {
-    settings.second_monitor = c.number;
-    StartWithSettings();
-    EXPECT_EQ(result, StartUpResult::kRunning);
+  const std::pair<int, MonitorArea> cases[] = {
+      {0, kFirst}, {1, kRoom}, {2, kFirst}, {32767, kFirst}, {-1, kFirst}};
+  for (const auto& [number, area] : cases) {
+    settings.second_monitor = number;
+    Start();
     EXPECT_TRUE(machine.messages.shown.empty()) << "a monitor that is off is no damaged file";
-    EXPECT_EQ(machine.displays.second_area, c.area) << c.number;
+    EXPECT_EQ(machine.displays.second_area, area) << number;
     const Form3& form3 = house().form3;
     for (const Panel* bar : {&form3.ticker, &form3.facts}) {
-      EXPECT_EQ(bar->place().bottom(), static_cast<float>(c.area.height));
-      EXPECT_EQ(bar->place().width, static_cast<float>(c.area.width));
+      EXPECT_EQ(bar->place().bottom(), static_cast<float>(area.height));
+      EXPECT_EQ(bar->place().width, static_cast<float>(area.width));
     }
     EXPECT_EQ(form3.fact.place().right(), form3.facts_inner.place().left);
     EXPECT_TRUE(machine.displays.second_shown);
-    EXPECT_EQ(house().settings.second_monitor, c.number);
-    jukebox.reset();
+    EXPECT_EQ(house().settings.second_monitor, number);
   }
   machine.displays.monitors.clear();
   EXPECT_EQ(clsScreens(machine.displays).Count(), 1);
@@ -118,8 +106,8 @@ TEST_F(SecondMonitorTest, StandsOnItsMonitorOrOnTheFirstUntilThatIsThere) {
 }
 
 TEST_F(SecondMonitorTest, AnUnpluggedMonitorSendsTheWindowHomeAndNeverStopsTheSound) {
-  StartWithSettings();
-  Play(clip);
+  Start();
+  Choose(clip);
   const VideoPlacement in_the_room = machine.player.placement;
   EXPECT_EQ(in_the_room, (VideoPlacement{VideoHost::kSecondMonitor, 0, 0, 1920, 1080}));
   const int heard = Heard();
@@ -141,28 +129,27 @@ TEST_F(SecondMonitorTest, AnUnpluggedMonitorSendsTheWindowHomeAndNeverStopsTheSo
 
 TEST_F(SecondMonitorTest, ShowsForVideosAndForSongsAsItIsSet) {
   for (const bool videos_only : {false, true}) {
-    StartWithSettings();
+    Start();
     EXPECT_TRUE(machine.displays.second_shown) << "the file knows nothing of \"Videos Only\"";
     house().settings.second_monitor_videos_only = videos_only;
-    jukebox->effects.displays.MoveSecondMonitor();
+    MoveSecondMonitor();
     EXPECT_EQ(machine.displays.second_shown, !videos_only) << "at once";
-    Play(clip);
+    Choose(clip);
     EXPECT_TRUE(machine.displays.second_shown);
     EXPECT_FALSE(form().now_playing.video.visible());
-    Play(song);
+    Choose(song);
     EXPECT_EQ(machine.displays.second_shown, !videos_only);
     house().playback.paused = true;
     house().settings.second_monitor_videos_only = !videos_only;
-    jukebox->effects.displays.MoveSecondMonitor();
+    MoveSecondMonitor();
     EXPECT_EQ(machine.displays.second_shown, videos_only);
-    jukebox.reset();
   }
 }
 
 TEST_F(SecondMonitorTest, APictureMovesBetweenTheWindowsWhileItPlays) {
   settings.use_second_monitor = false;
-  StartWithSettings();
-  Play(clip);
+  Start();
+  Choose(clip);
   NowPlayingScreen& screen = form().now_playing;
   const VideoPlacement box{VideoHost::kMainWindow, 0, 0,
                            static_cast<int>(screen.video.place().width),
@@ -172,15 +159,15 @@ TEST_F(SecondMonitorTest, APictureMovesBetweenTheWindowsWhileItPlays) {
   const int heard = Heard();
   for (int i = 0; i < 3; ++i) {
     house().settings.use_second_monitor = true;
-    jukebox->effects.displays.MoveSecondMonitor();
+    MoveSecondMonitor();
     EXPECT_TRUE(machine.displays.second_shown);
     EXPECT_FALSE(screen.video.visible() || screen.full_screen.visible());
     EXPECT_EQ(machine.player.placement.host, VideoHost::kSecondMonitor);
     house().settings.second_monitor = i % 2;
-    jukebox->effects.displays.MoveSecondMonitor();
+    MoveSecondMonitor();
     EXPECT_EQ(machine.player.placement.width, i % 2 == 0 ? 1280 : 1920);
     house().settings.use_second_monitor = false;
-    jukebox->effects.displays.MoveSecondMonitor();
+    MoveSecondMonitor();
     EXPECT_FALSE(machine.displays.second_shown);
     EXPECT_TRUE(screen.video.visible() && screen.full_screen.visible());
     EXPECT_EQ(machine.player.placement, box);
@@ -191,7 +178,7 @@ TEST_F(SecondMonitorTest, APictureMovesBetweenTheWindowsWhileItPlays) {
 
 TEST_F(SecondMonitorTest, FullScreenGoesOnAndOffInItsSteps) {
   folder.Write("skins/Plain/resolution.ini", "a\nb\nc\n1024\n768\n");
-  StartWithSettings();
+  Start();
   auto& calls = machine.displays.calls;
   const auto switch_it = [&](bool on) {
     calls.clear();
@@ -220,7 +207,7 @@ TEST_F(SecondMonitorTest, FullScreenGoesOnAndOffInItsSteps) {
 TEST_F(SecondMonitorTest, StartsInFullScreenWithoutAFrameWhateverTheSkinTells) {
   settings.full_screen = true;
   machine.displays.style.fill(true);
-  StartWithSettings();
+  Start();
   const auto flag = [this](StyleFlag which) {
     return machine.displays.style[static_cast<size_t>(which)];
   };

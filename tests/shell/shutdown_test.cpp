@@ -20,13 +20,11 @@ TEST_F(ShutdownTest, EndsTheSessionByTheChoiceWithLogOffAndRebootCrossed) {
   for (const auto& c : cases) {
     settings.power_exit = false;
     settings.*c.choice = true;
-    WriteDefaults();
     Start();
     jukebox->shutdown.power_down();
     EXPECT_EQ(machine.session.ends, c.ends);
     EXPECT_TRUE(machine.events.left);
     EXPECT_TRUE(jukebox->MayClose());
-    jukebox.reset();
     settings.*c.choice = false;
     machine.session.ends.clear();
     machine.events.left = false;
@@ -38,7 +36,6 @@ TEST_F(ShutdownTest, SavesBeforeTheSessionEndsAndOnlyOnce) {
   settings.shutdown_command = "/bin/sync";
   settings.power_exit = false;
   settings.power_down_atx = true;
-  WriteDefaults();
   Start();
   house().settings.save_carousel_on_shutdown = true;
   house().queue.Append("\\m\\1.wav", "");
@@ -65,7 +62,6 @@ TEST_F(ShutdownTest, SavesBeforeTheSessionEndsAndOnlyOnce) {
 TEST_F(ShutdownTest, TheTimedExitLeavesPlayerSignCarouselAndSessionAlone) {
   settings.power_exit = false;
   settings.power_shutdown = true;
-  WriteDefaults();
   folder.Write("queue.dat", " 1 \r\n\\m\\old.wav\r\n\r\n\r\n\r\n");
   Start();
   house().settings.save_carousel_on_shutdown = true;

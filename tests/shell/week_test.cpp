@@ -18,7 +18,6 @@ class WeekTest : public JukeboxTest {
     settings.shuffle_queue_each_play = true;
     settings.menu_options = false;  // its screen holds the idle chain by design
     settings.now_playing_wait = "90";
-    WriteDefaults();
     std::vector<TestAlbum> albums;
     for (int album = 0; album < 30; ++album) {
       const std::string name = "Album " + std::to_string(album);

@@ -24,30 +24,36 @@ struct TestAlbum {
   std::string date = "01/01/2024";
 };
 
+// A record of one of the catalogue's kinds with these texts, as its bytes.
+template <typename Record>
+std::string RecordBytes(const std::vector<std::pair<RecordField, std::string>>& fields) {
+  Record record;
+  for (const auto& [field, text] : fields) {
+    PutField(record.bytes, field.offset, field.width, text);
+  }
+  return {record.bytes.data(), record.bytes.size()};
+}
+
 inline std::string AlbumBytes(const std::string& path, const std::string& artist,
                               const std::string& album, const std::string& date) {
-  AlbumRecord record;
-  const auto put = [&](RecordField field, const std::string& text) {
-    PutField(record.bytes, field.offset, field.width, text);
-  };
-  put(AlbumRecord::kPath, path);
-  put(AlbumRecord::kArtist, artist);
-  put(AlbumRecord::kAlbum, album);
-  put(AlbumRecord::kDate, date);
-  return {record.bytes.data(), record.bytes.size()};
+  using R = AlbumRecord;
+  return RecordBytes<R>(
+      {{R::kPath, path}, {R::kArtist, artist}, {R::kAlbum, album}, {R::kDate, date}});
 }
 
 inline std::string TrackBytes(const std::string& path, const std::string& track,
                               const std::string& artist = "", const std::string& album = "") {
-  TrackRecord record;
-  const auto put = [&](RecordField field, const std::string& text) {
-    PutField(record.bytes, field.offset, field.width, text);
-  };
-  put(TrackRecord::kPath, path);
-  put(TrackRecord::kTrack, track);
-  put(TrackRecord::kArtist, artist);
-  put(TrackRecord::kAlbum, album);
-  return {record.bytes.data(), record.bytes.size()};
+  using R = TrackRecord;
+  return RecordBytes<R>(
+      {{R::kPath, path}, {R::kTrack, track}, {R::kArtist, artist}, {R::kAlbum, album}});
+}
+
+inline std::string FactBytes(const std::string& artist, const std::string& track,
+                             const std::vector<std::string>& facts) {
+  using R = SongFactRecord;
+  std::vector<std::pair<RecordField, std::string>> fields{{R::kArtist, artist}, {R::kTrack, track}};
+  for (size_t i = 0; i < facts.size(); ++i) fields.emplace_back(R::kFacts[i], facts[i]);
+  return RecordBytes<R>(fields);
 }
 
 // The sidecar of a file, with its names in the places that count.
@@ -98,21 +104,56 @@ class JukeboxTest : public testing::Test {
     return AlbumPath(album) + name;
   }
 
+  // With the settings as the test has them; those that were saved meanwhile count before them.
   Jukebox& Start() {
+    jukebox.reset();
+    if (!folder.Has("sonotik.ini")) WriteDefaults();
     jukebox = std::make_unique<Jukebox>(folder.path(), machine.machine);
     result = jukebox->Start();
     return *jukebox;
   }
+  // Everything costs two credits, and the guest has so many.
+  void StartPaid(int credits) {
+    settings.enable_credit_mode = true;
+    folder.Write("cost.dat", " 1 \r\n 1 \r\n 1 \r\n 1 \r\n 1 \r\n 1 \r\n 1 \r\n 1 \r\n 1 \r\n");
+    Start();
+    house().credits.Receive(std::to_string(credits));
+  }
   Assembly& house() { return jukebox->house; }
   Form1& form() { return jukebox->house.form1; }
 
-  // The middle of a control, as a finger would.
+  static Point Middle(const Control& control) {
+    const Rect place = control.AbsolutePlace();
+    return {place.left + place.width / 2, place.top + place.height / 2};
+  }
+  // As a finger would.
   void Click(const Control& control) {
     ASSERT_TRUE(control.showing());
-    const Rect place = control.AbsolutePlace();
-    form().form.Click({place.left + place.width / 2, place.top + place.height / 2});
+    form().form.Click(Middle(control));
   }
 
+  void PressMenu(MenuButton button) { Click(form().menu_buttons[static_cast<size_t>(button)]); }
+  void Choose(const std::string& path, PlayWay way = PlayWay::kPlayNow) {
+    house().selection.Choose(path, way);
+  }
+  std::string Playing() const { return machine.player.file; }
+  std::vector<std::string> Queued() {
+    std::vector<std::string> paths;
+    for (int i = 0; i < house().queue.count(); ++i) paths.push_back(house().queue.path(i));
+    return paths;
+  }
+  // Records of a history.
+  size_t Plays(const char* history = kUserHistory) const {
+    return folder.Read(history).size() / HistoryRecord::kSize;
+  }
+
+  // Polls of the keys and the spool.
+  void Poll(int times = 1) {
+    for (int i = 0; i < times; ++i) {
+      machine.clock.Add(10);
+      machine.timers.FireDue();
+    }
+  }
   // Lets time pass in steps of 100 ms; the player plays along.
   void Advance(double seconds) {
     for (int i = 0; i < static_cast<int>(seconds * 10 + 0.5); ++i) {
@@ -127,6 +168,24 @@ class JukeboxTest : public testing::Test {
   Settings settings;
   std::unique_ptr<Jukebox> jukebox;
   StartUpResult result = StartUpResult::kNoCatalogue;
+};
+
+// The same with one album in it, of three tracks.
+class DayTest : public JukeboxTest {
+ protected:
+  DayTest() {
+    WriteAlbums({{"Day", "Ada"}});
+    for (const char* title : {"Dawn", "Noon", "Dusk"}) {
+      const std::string number = std::to_string(tracks.size() + 1);
+      tracks.push_back(WriteTrack("Day", number + " " + title + ".wav", "Ada", title));
+    }
+  }
+  // By the guest's road: the cover, the row, its play options.
+  void OpenOptions(size_t row) {
+    Click(form().album.covers[0].cover);
+    Click(form().track_list.rows[row].title);
+  }
+  std::vector<std::string> tracks;
 };
 
 }  // namespace sonotik

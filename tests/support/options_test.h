@@ -79,6 +79,9 @@ class OptionsTest : public JukeboxTest {
       case K::kPin:
         TypeText("7");
         break;
+      case K::kSlider:
+        Click(*jukebox->options.SliderOn(field));
+        break;
       default:
         break;
     }
