@@ -67,16 +67,11 @@ TEST_F(SignTest, EachModelGetsItsFrameAndTheBadgeOrASignSwitchedOffNone) {
     house().state.shutting_down = false;
     jukebox->shutdown.power_down();
     EXPECT_EQ(Sent(), each.nothing) << "at the end";
-    jukebox.reset();
   }
 }
 
 TEST_F(SignTest, AFactTakesTheFirstLineAloneAndGivesItBackToTheTrack) {
-  SongFactRecord record;
-  PutField(record.bytes, 0, 60, "ada");
-  PutField(record.bytes, 60, 60, "DAWN");
-  PutField(record.bytes, 120, 255, "Rock & roll");
-  folder.Write("songfacts.dat", {record.bytes.data(), record.bytes.size()});
+  folder.Write("songfacts.dat", FactBytes("ada", "DAWN", {"Rock & roll"}));
   const std::string dawn = WriteTrack("Day", "1.wav");
   machine.player.lengths[dawn] = 100;
   WriteSign(1);

@@ -17,45 +17,45 @@ class CreditsTest : public JukeboxTest {
 
 TEST_F(CreditsTest, TheSumTakenIsReadAcrossTheGridFromTheSumShown) {
   Start();
-  Credits& credits = house().credits;
-  EXPECT_EQ(credits.ShownPrice(kAudio, PlayWay::kPlayNext), 2);
-  credits.Receive("100");
-  EXPECT_TRUE(credits.ChargeForSelection(kAudio, false, true, false));
-  EXPECT_EQ(credits.count(), 97);
-  EXPECT_TRUE(credits.ChargeForSelection(kVideo, false, false, false));
-  EXPECT_EQ(credits.count(), 95);
-  EXPECT_TRUE(credits.ChargeForSelection(kKaraoke, true, false, false));
-  EXPECT_EQ(credits.count(), 86);
+  EXPECT_EQ(house().credits.ShownPrice(kAudio, PlayWay::kPlayNext), 2);
+  const struct {
+    int kind;
+    bool now, next, machine;
+    int before, after;
+  } cases[] = {{kAudio, false, true, false, 100, 97},
+               {kVideo, false, false, false, 97, 95},
+               {kKaraoke, true, false, false, 95, 86},
+               // The machine, other pages and both flags at once pay nothing.
+               {kAudio, false, false, true, 0, 0},
+               {kNewSongs, false, false, false, 0, 0},
+               {kAudio, true, true, false, 0, 0}};
+  for (const auto& c : cases) {
+    house().credits.Receive(std::to_string(c.before - house().credits.count()));
+    EXPECT_TRUE(house().credits.ChargeForSelection(c.kind, c.now, c.next, c.machine));
+    EXPECT_EQ(house().credits.count(), c.after);
+  }
+  // Told by the charge that took it; coins wait for the tick.
   EXPECT_EQ(Caption(), "CREDITS:  86");
-}
-
-TEST_F(CreditsTest, PricesAreSavedAsTheyWereRead) {
-  Start();
+  EXPECT_FALSE(house().credits.ChargeForSelection(kAudio, false, false, false));
   const std::string read = folder.Read("cost.dat");
-  std::filesystem::remove(folder.native() / "cost.dat");
   house().credits.SaveCost();
   EXPECT_EQ(folder.Read("cost.dat"), read);
 }
 
-TEST_F(CreditsTest, WithTooFewNothingIsAddedOrTaken) {
+TEST_F(CreditsTest, WithTooFewNothingIsAddedOrTakenAndWithoutPricesEverythingIsFree) {
   Start();
-  house().credits.Receive("2");
-  Choose("\\m\\1.wav", PlayWay::kPlayNext);
-  EXPECT_EQ(house().credits.count(), 2);
-  EXPECT_EQ(house().queue.count(), 0);
-  EXPECT_FALSE(folder.Has("queue.upl"));
-  house().credits.Receive("1");
-  Choose("\\m\\1.wav", PlayWay::kPlayNext);
+  for (const auto& [coin, left, queued] : {std::tuple("2", 2, 0), {"1", 0, 1}, {"0", 0, 1}}) {
+    house().credits.Receive(coin);
+    Choose("\\m\\1.wav", PlayWay::kPlayNext);
+    EXPECT_EQ(house().credits.count(), left);
+    EXPECT_EQ(house().queue.count(), queued);
+    EXPECT_EQ(folder.Has("queue.upl"), queued > 0);
+  }
+  std::filesystem::remove(folder.native() / "cost.dat");
+  Start();
+  for (const PlayWay way : {PlayWay::kAddToQueue, PlayWay::kPlayNext}) Choose("\\m\\1.wav", way);
+  EXPECT_EQ(house().queue.count(), 2);
   EXPECT_EQ(house().credits.count(), 0);
-  EXPECT_EQ(house().queue.count(), 1);
-}
-
-TEST_F(CreditsTest, TheMachineOtherPagesAndBothFlagsPayNothing) {
-  Start();
-  EXPECT_TRUE(house().credits.ChargeForSelection(kAudio, false, false, true));
-  EXPECT_TRUE(house().credits.ChargeForSelection(kNewSongs, false, false, false));
-  EXPECT_TRUE(house().credits.ChargeForSelection(kAudio, true, true, false));
-  EXPECT_FALSE(house().credits.ChargeForSelection(kAudio, false, false, false));
 }
 
 TEST_F(CreditsTest, CoinsAreAnyTextAndNeverWrap) {
@@ -84,31 +84,35 @@ TEST_F(CreditsTest, OnlyARealSwitchStartsTheCreditModule) {
   EXPECT_EQ(machine.processes.started.size(), 1U);
 }
 
-TEST_F(CreditsTest, WithoutCoinsThePlayOptionsShowPricesAndNoButton) {
+TEST_F(CreditsTest, ThePlayOptionsShowPricesAndAskForThatOfPlayNext) {
   const std::string path = WriteTrack("A", "1.wav");
   Start();
-  house().play_options.show_play_options(path, screen::kTrackList);
   PlayOptionsScreen& screen = form().play_options;
-  EXPECT_EQ(screen.message.caption(), "Insert Coins To Play AUDIO");
-  EXPECT_FALSE(screen.play_now.visible());
-  EXPECT_FALSE(screen.cancel.visible());
-  EXPECT_EQ(screen.prices[0].caption(), " 1 Credits Add To Queue");
-  EXPECT_EQ(screen.prices[2].caption(), " 7 Credits Play NOW");
-  Click(screen.message);
-  EXPECT_FALSE(screen.panel.visible());
-}
-
-TEST_F(CreditsTest, TheTestPriceOfVideoIsTheAudioPriceOfPlayNext) {
-  const std::string path = WriteTrack("A", "1.wav");
-  Start();
-  house().cursor.media_kind = kVideo;
-  house().credits.Receive("2");
-  // Adding would cost 2, but 3 are asked for.
-  house().play_options.show_play_options(path, screen::kTrackList);
-  EXPECT_EQ(form().play_options.message.caption(), "Insert Coins To Play VIDEO");
+  const struct {
+    int kind;
+    const char *coins, *message, *add_to_queue, *play_now;
+    bool stays;  // after a touch beside the buttons
+  } cases[] = {
+      {kAudio, "0", "Insert Coins To Play AUDIO", " 1 Credits Add To Queue", " 7 Credits Play NOW",
+       false},
+      // Adding would cost 2, but 3 are asked for; with some in hand a touch leaves nothing.
+      {kVideo, "2", "Insert Coins To Play VIDEO", " 3 Credits Add To Queue", " 8 Credits Play NOW",
+       true}};
+  for (const auto& c : cases) {
+    house().cursor.media_kind = c.kind;
+    house().credits.Receive(c.coins);
+    house().play_options.show_play_options(path, screen::kTrackList);
+    EXPECT_EQ(screen.message.caption(), c.message);
+    EXPECT_FALSE(screen.play_now.visible() || screen.cancel.visible());
+    EXPECT_EQ(screen.prices[0].caption(), c.add_to_queue);
+    EXPECT_EQ(screen.prices[2].caption(), c.play_now);
+    Click(screen.message);
+    EXPECT_EQ(screen.panel.visible(), c.stays);
+  }
   house().credits.Receive("1");
   house().play_options.show_play_options(path, screen::kTrackList);
-  EXPECT_EQ(form().play_options.message.caption(), "");
+  EXPECT_EQ(screen.message.caption(), "");
+  EXPECT_TRUE(screen.play_now.visible());
 }
 
 TEST_F(CreditsTest, SwitchedOffTheCountIsKeptUnseenAndOnAgainStartsAnotherFeeder) {
@@ -126,27 +130,6 @@ TEST_F(CreditsTest, SwitchedOffTheCountIsKeptUnseenAndOnAgainStartsAnotherFeeder
   switch_to(true);
   EXPECT_EQ(Caption(), "CREDITS:  4");
   EXPECT_EQ(machine.processes.started.size(), 2U);
-}
-
-TEST_F(CreditsTest, WithoutPricesEverythingIsFree) {
-  std::filesystem::remove(folder.native() / "cost.dat");
-  Start();
-  for (const PlayWay way : {PlayWay::kAddToQueue, PlayWay::kPlayNext}) {
-    Choose("\\m\\1.wav", way);
-  }
-  EXPECT_EQ(house().queue.count(), 2);
-  EXPECT_EQ(house().credits.count(), 0);
-}
-
-TEST_F(CreditsTest, WithSomeCreditsInHandATouchBesideTheButtonsLeavesNothing) {
-  const std::string path = WriteTrack("A", "1.wav");
-  folder.Write("cost.dat", " 5 \r\n 5 \r\n 5 \r\n 5 \r\n 5 \r\n 5 \r\n 5 \r\n 5 \r\n 5 \r\n");
-  Start();
-  house().credits.Receive("1");
-  house().play_options.show_play_options(path, screen::kTrackList);
-  EXPECT_EQ(form().play_options.message.caption(), "Insert Coins To Play AUDIO");
-  Click(form().play_options.message);
-  EXPECT_TRUE(form().play_options.panel.visible());
 }
 
 TEST_F(CreditsTest, APriceComesBackOnlyForATrackThatNeverBegan) {

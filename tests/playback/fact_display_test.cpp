@@ -6,15 +6,6 @@
 namespace sonotik {
 namespace {
 
-std::string FactBytes(const std::string& artist, const std::string& track,
-                      const std::array<std::string, 5>& facts) {
-  SongFactRecord record;
-  PutField(record.bytes, 0, 60, artist);
-  PutField(record.bytes, 60, 60, track);
-  for (size_t i = 0; i < facts.size(); ++i) PutField(record.bytes, 120 + 255 * i, 255, facts[i]);
-  return {record.bytes.data(), record.bytes.size()};
-}
-
 class FactDisplayTest : public JukeboxTest {
  protected:
   FactDisplayTest() {

@@ -17,13 +17,13 @@ class RandomPlayTest : public JukeboxTest {
     settings.wait_between_tracks = "3";
     settings.do_not_repeat_count = 3;
   }
-  void WriteTracks(int count, const std::string& database = "Records.rec") {
+  void WriteTracks(int count) {
     std::string bytes;
     for (int i = 0; i < count; ++i) {
       tracks.push_back(WriteTrack("Mix", std::to_string(i) + ".wav", "Ada", std::to_string(i)));
       bytes += TrackBytes(tracks.back(), "");
     }
-    folder.Write(database, bytes);
+    folder.Write("Records.rec", bytes);
   }
   std::vector<std::string> tracks;
 };
