@@ -57,16 +57,11 @@ TEST_F(SettingsFileTest, TheDeliveredDefaultsLoadAndStandInTheirLines) {
   file.LoadConfig();
   EXPECT_TRUE(messages.shown.empty());
   EXPECT_EQ(lists.skins, (ItemList{"Classic", "Neon", "Plain"}));
-  EXPECT_EQ(lists.calendar_skins, lists.skins);
   EXPECT_EQ(settings.current_skin, "Neon");
   // The delivered file can't know the folder it lies in.
   EXPECT_EQ(settings.attract_path, path);
   const auto lines = Lines("sonotik.def");
   ASSERT_EQ(lines.size(), 185U);
-  // Behind three skins.
-  EXPECT_EQ(lines[14], "Credit Settings\r\n");
-  EXPECT_EQ(lines[95], "Play Button Settings\r\n");
-  EXPECT_EQ(lines[162], "Jingles Path\r\n");
   EXPECT_EQ(lines[183], "Add all to queue\r\n");
 }
 
@@ -177,12 +172,6 @@ TEST_F(SettingsFileTest, OfABadFileOnlyTheValuesThatDoNotWaitStay) {
   EXPECT_EQ(messages.shown, std::vector<std::string>{kWrongVersion});
   EXPECT_TRUE(settings.shuffle_queue_each_play);
   EXPECT_EQ(settings.main_volume, 0);
-}
-
-TEST_F(SettingsFileTest, ReadingTwiceDoublesTheSkins) {
-  file.LoadConfig();
-  file.LoadConfig();
-  EXPECT_EQ(lists.skins, (ItemList{"Classic", "Neon", "Plain", "Classic", "Neon", "Plain"}));
 }
 
 }  // namespace

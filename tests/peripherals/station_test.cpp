@@ -12,18 +12,12 @@ namespace {
 class StationTest : public JukeboxTest {
  protected:
   StationTest() { folder.Write("terminal.ini", "x\r\n\r\nTrue\r\nFalse\r\n"); }
-  void Poll(int times = 1) {
-    for (int i = 0; i < times; ++i) {
-      machine.clock.Add(10);
-      machine.timers.FireDue();
-    }
-  }
   // Nothing leaves the queue.
   void StartPaused() {
     Start();
     house().playback.paused = true;
   }
-  std::string Queued(int index) { return house().queue.path(index); }
+  using Paths = std::vector<std::string>;
   // A Terminal whose box holds this.
   void BecomeTerminal(const std::string& box) {
     folder.Write("terminal.ini", "x\r\n" + box + "\r\nFalse\r\nTrue\r\n");
@@ -92,10 +86,9 @@ TEST_F(StationTest, AHundredSelectionsOfFourTerminalsAtOnceArriveOnceEachAndWhol
   while (!written) Poll();
   last.join();
   Poll(101);
-  std::set<std::string> arrived;
-  for (int i = 0; i < house().queue.count(); ++i) arrived.insert(house().queue.path(i));
-  EXPECT_EQ(house().queue.count(), 100);
-  EXPECT_EQ(arrived, sent);
+  const Paths arrived = Queued();
+  EXPECT_EQ(arrived.size(), 100U);
+  EXPECT_EQ(std::set(arrived.begin(), arrived.end()), sent);
   EXPECT_EQ(house().boundary.failures(), 0);
 }
 
@@ -111,10 +104,9 @@ TEST_F(StationTest, AFolderThatDoesNotAnswerStallsNobodyAndLosesNothing) {
   EXPECT_EQ(house().credits.count(), 5);
   outage.End();
   Poll();
-  EXPECT_EQ(Queued(0), "\\m\\1.wav");
-  EXPECT_EQ(Queued(1), "") << "one file a poll";
+  EXPECT_EQ(Queued(), Paths{"\\m\\1.wav"}) << "one file a poll";
   Poll();
-  EXPECT_EQ(Queued(1), "\\m\\2.wav");
+  EXPECT_EQ(Queued(), Paths({"\\m\\1.wav", "\\m\\2.wav"}));
   EXPECT_EQ(house().boundary.failures(), 0);
 }
 
@@ -162,16 +154,12 @@ TEST_F(StationTest, ATerminalHandsOverIntoItsBoxOrTheWorkingFolderAndPlaysNothin
     EXPECT_EQ(house().queue.count(), 0);
     EXPECT_EQ(machine.player.file, "");
     EXPECT_TRUE(folder.Has("queue.upl"));
-    jukebox.reset();
   }
 }
 
 TEST_F(StationTest, ATerminalTakesThePriceAndGivesItBackWhenItsShareIsGone) {
-  settings.enable_credit_mode = true;
-  folder.Write("cost.dat", " 1 \r\n 1 \r\n 1 \r\n 1 \r\n 1 \r\n 1 \r\n 1 \r\n 1 \r\n 1 \r\n");
   BecomeTerminal(folder.path() + "\\shared\\");
-  Start();
-  house().credits.Receive("5");
+  StartPaid(5);
   EXPECT_FALSE(jukebox->navigation.Choose("\\m\\1.wav", PlayWay::kAddToQueue)) << "asks again";
   EXPECT_EQ(form().credits.caption(), "CREDITS:  5");
   EXPECT_EQ(house().boundary.failures(), 1);
@@ -246,14 +234,11 @@ TEST_F(StationTest, HalfWrittenFilesWaitUntilTheyAreWholeAndKeepNoOtherWaiting) 
     folder.Write("A.QUE", whole.substr(0, static_cast<size_t>(n) % whole.size()));
     Poll();
   }
-  EXPECT_EQ(house().queue.count(), 1);
-  EXPECT_EQ(Queued(0), "\\m\\4.wav");
+  EXPECT_EQ(Queued(), Paths{"\\m\\4.wav"});
   folder.Write("A.QUE", whole);
   // The first is whole now, the second has stood still, the others never were selections.
   Poll(6);
-  ASSERT_EQ(house().queue.count(), 3);
-  EXPECT_EQ(Queued(1), "\\m\\1.wav");
-  EXPECT_EQ(Queued(2), "\\m\\2.wav");
+  EXPECT_EQ(Queued(), Paths({"\\m\\4.wav", "\\m\\1.wav", "\\m\\2.wav"}));
   EXPECT_EQ(folder.Read("C.QUE.bad"), " 0 \r\n");
   EXPECT_FALSE(folder.Has("C.QUE"));
   EXPECT_TRUE(folder.Has("E.QUE.bad") && folder.Has("F.QUE.bad"));
@@ -275,12 +260,12 @@ TEST_F(StationTest, AServedFileThatCanNotBeDeletedIsServedOnce) {
   EXPECT_FALSE(house().network.ReadSpool());
   folder.Write("B.QUE", " 0 \r\n 0 \r\n\\m\\2.wav\r\n");
   Poll(2);
-  EXPECT_EQ(house().queue.count(), 1);
+  EXPECT_EQ(Queued(), Paths{"\\m\\2.wav"});
   EXPECT_FALSE(house().network.ReadSpool());
   // Written anew it is another selection.
   folder.Write("A.QUE", " 0 \r\n 0 \r\n\\m\\11.wav\r\n");
   Poll();
-  EXPECT_EQ(Queued(1), "\\m\\11.wav");
+  EXPECT_EQ(Queued()[1], "\\m\\11.wav");
 }
 
 }  // namespace

@@ -24,22 +24,21 @@ class MediaEngineTest : public testing::Test {
   MediaEngine engine{player, events, settings, host};
 };
 
-TEST_F(MediaEngineTest, OpensLoudAndRunningWithTheLengthInHundredths) {
-  player.lengths["a"] = 12.344;
-  engine.OpenMedia("a", false);
-  EXPECT_TRUE(engine.MediaIsPlaying());
-  EXPECT_TRUE(player.playing());
-  EXPECT_EQ(player.volume, 0);
-  EXPECT_EQ(engine.MediaDuration(), 12.34);
-  EXPECT_EQ(engine.MediaPosition(), 0);
-}
-
-TEST_F(MediaEngineTest, PositionAndLengthMeetAtTheEndWhateverTheFraction) {
-  for (const double length : {0.3, 12.344, 12.996, 12.999999, 30.0, 59.994}) {
+TEST_F(MediaEngineTest, PositionAndLengthInHundredthsMeetAtTheEndWhateverTheFraction) {
+  for (const auto& [length, duration] : {std::pair(0.3, 0.3),
+                                         {12.344, 12.34},
+                                         {12.996, 13.0},
+                                         {12.999999, 13.0},
+                                         {30.0, 30.0},
+                                         {59.994, 59.99}}) {
     player.lengths["a"] = length;
     engine.OpenMedia("a", false);
+    EXPECT_TRUE(engine.MediaIsPlaying() && player.playing());
+    EXPECT_EQ(player.volume, 0);
+    EXPECT_EQ(engine.MediaPosition(), 0);
+    EXPECT_EQ(engine.MediaDuration(), duration);
     player.Add(1000);
-    EXPECT_EQ(engine.MediaPosition(), engine.MediaDuration()) << length;
+    EXPECT_EQ(engine.MediaPosition(), duration) << length;
     engine.MediaPlay();
     EXPECT_LT(engine.MediaPosition(), 0.1);
   }

@@ -114,8 +114,7 @@ TEST_F(DecadesTest, ThePanelIsPaintedBeforeTheScanAndItsBarMovesWithALongOne) {
   folder.Write(kMonth, Plain({}));
   Start();
   // The album pages alone, although a chart was loaded.
-  EXPECT_TRUE(form().panel(screen::kAlbum).visible());
-  EXPECT_FALSE(form().panel(screen::kDecades).visible());
+  EXPECT_EQ(Shown(), Screens{screen::kAlbum});
   Open();
   std::vector<int> bar;
   machine.events.on_paint = [&] {

@@ -94,7 +94,7 @@ TEST_F(HistoryScreenTest, NoPressAtAnyLengthOfTheLogEverFailsOrCostsAnything) {
   std::mt19937 random(5);
   // Without a log the total is that of the file read last, and an empty one counts as one.
   for (const auto& [plays, total] : {std::pair(-1, "2"), {0, "1"}, {3, "3"}}) {
-    std::filesystem::remove(folder.native() / "User_history.dat");
+    folder.Remove("User_history.dat");
     if (plays >= 0) WriteHistory(plays);
     StartPaid(5);
     PressMenu(MenuButton::kHistory);
@@ -144,8 +144,7 @@ TEST_F(HistoryScreenTest, TextsLeadToThePlayOptionsAndCoversToTheAlbum) {
   Click(form().history.rows[2].cover);
   EXPECT_EQ(form().track_list.rows[0].title.caption(), "Song 1");
   Click(form().track_list.back);
-  EXPECT_TRUE(form().panel(screen::kAlbum).visible());
-  EXPECT_FALSE(form().panel(screen::kHistory).visible());
+  EXPECT_EQ(Shown(), Screens{screen::kAlbum});
 }
 
 TEST_F(HistoryScreenTest, TheTop20TurnsItsPagesAndLeavesAnEleventhRowOut) {

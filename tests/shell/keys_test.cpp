@@ -85,8 +85,7 @@ TEST_F(KeysTest, CoversAreMarkedOpenedAndTheirTracksTaken) {
   EXPECT_EQ(house().track_list.selected_row(), 1);
   PressSlot(4);
   EXPECT_EQ(house().queue.path(0), AlbumPath("Long") + "02.wav");
-  EXPECT_TRUE(form().panel(screen::kAlbum).visible());
-  EXPECT_FALSE(form().panel(screen::kTrackList).visible());
+  EXPECT_EQ(Shown(), Screens{screen::kAlbum});
 }
 
 TEST_F(KeysTest, AScrolledListYieldsTheFileOfTheUnscrolledRowAndARowWithoutATrackNothing) {

@@ -8,19 +8,10 @@ namespace {
 
 class MenuTest : public JukeboxTest {
  protected:
-  // The screens 0 to 13 that show.
-  std::vector<size_t> Shown() {
-    std::vector<size_t> shown;
-    for (size_t i = 0; i <= screen::kPlayOptions; ++i) {
-      if (form().panel(i).visible()) shown.push_back(i);
-    }
-    return shown;
-  }
   void EnterPin(const std::string& digits) {
     for (const char digit : digits) Click(form().pin.keys[static_cast<size_t>(digit - '0')]);
     Click(form().pin.keys[0]);
   }
-  using Screens = std::vector<size_t>;
 };
 
 TEST_F(MenuTest, EachButtonShowsItsScreenAloneAndBackMeansTheAlbums) {
@@ -73,56 +64,39 @@ TEST_F(MenuTest, ThePickersOwnBackTakesOnlyThePickerAway) {
   EXPECT_EQ(Shown(), Screens{screen::kDecades});
 }
 
-TEST_F(MenuTest, AGenreBarTakesTheMenusPlaceWhereTheSkinWantsIt) {
-  // The head and the bar's size; what is missing behind them costs the buttons their places only.
-  folder.Write("skins/Plain/menu.ini", "1\r\n64\r\n1280\r\n");
-  Start();
-  jukebox->menu.Open(MenuButton::kGenres);
-  EXPECT_EQ(Shown(), Screens{screen::kAlbum});
-  EXPECT_TRUE(form().genre_bar.visible());
-  EXPECT_FALSE(form().menu.visible());
-}
-
 TEST_F(MenuTest, ThePinDecidesWhoSeesWhichSections) {
   settings.prompt_for_pin = true;
-  settings.admin_pin = "12";
-  settings.delegate_pin = "12";
+  settings.admin_pin = settings.delegate_pin = "12";
   folder.Write("permissions.ini",
                " 0 \r\n 1 \r\n 0 \r\n 0 \r\n 0 \r\n 0 \r\n 0 \r\n 1 \r\n 0 \r\n 0 \r\n");
   Start();
-  const auto open = [this](const std::string& pin) {
+  std::string log;
+  const auto open = [&](const std::string& pin, const std::string& who, bool opens) {
     jukebox->menu.Open(MenuButton::kOptions);
     EXPECT_TRUE(Shown().empty());
     EnterPin(pin);
     EXPECT_FALSE(form().pin_screen.visible());
+    EXPECT_EQ(Shown(), Screens{opens ? screen::kOptions : screen::kAlbum}) << pin;
+    log += "01/15/2024 12:00:00 " + who + " pin entered... " + (opens ? "" : pin) + "\r\n";
   };
   for (const std::string& wrong : {std::string("99"), std::string(), std::string(500, '9')}) {
-    open(wrong);
-    EXPECT_EQ(Shown(), Screens{screen::kAlbum}) << wrong;
+    open(wrong, "Incorrect", false);
   }
   // One PIN for both is the Admin's. It leaves the last section as it stood.
-  form().options.sections[7].SetVisible(false);
-  open("12");
-  EXPECT_EQ(Shown(), Screens{screen::kOptions});
-  EXPECT_TRUE(form().options.sections[0].visible());
-  EXPECT_FALSE(form().options.sections[7].visible());
-  EXPECT_TRUE(form().options.power_off.visible());
+  OptionsScreen& options = form().options;
+  options.sections[7].SetVisible(false);
+  open("12", "Correct ADMIN", true);
+  EXPECT_TRUE(options.sections[0].visible() && options.power_off.visible());
+  EXPECT_FALSE(options.sections[7].visible());
   house().settings.admin_pin = "3";
-  open("12");
+  open("12", "Correct DELEGATE", true);
   for (size_t i = 0; i < kOptionSections; ++i) {
-    EXPECT_EQ(form().options.sections[i].visible(), i == 1 || i == 7) << i;
+    EXPECT_EQ(options.sections[i].visible(), i == 1 || i == 7) << i;
   }
-  EXPECT_FALSE(form().options.power_off.visible());
+  EXPECT_FALSE(options.power_off.visible());
   house().settings.delegate_pin = "";
-  open("");
-  EXPECT_EQ(Shown(), Screens{screen::kOptions});
-  const std::string when = "01/15/2024 12:00:00";
-  EXPECT_EQ(folder.Read("password.txt"), when + " Incorrect pin entered... 99\r\n" + when +
-                                             " Incorrect pin entered... \r\n" + when +
-                                             " Incorrect pin entered... " + std::string(500, '9') +
-                                             "\r\n" + when + " Correct ADMIN pin entered... \r\n" +
-                                             when + " Correct DELEGATE pin entered... \r\n" + when +
-                                             " Correct DELEGATE pin entered... \r\n");
+  open("", "Correct DELEGATE", true);
+  EXPECT_EQ(folder.Read("password.txt"), log);
 }
 
 TEST_F(MenuTest, ATrackForAdultsWantsThePinAndThenItsPlayOptions) {
@@ -145,16 +119,6 @@ TEST_F(MenuTest, ATrackForAdultsWantsThePinAndThenItsPlayOptions) {
   EnterPin("5");
   EXPECT_EQ(Shown(), Screens{screen::kPlayOptions});
   EXPECT_EQ(form().play_options.title.caption(), "Dawn");
-}
-
-TEST_F(MenuTest, ATouchEndsTheAttractPicture) {
-  Start();
-  form().ShowScreen(screen::kNowPlaying);
-  form().attract_picture.SetVisible(true);
-  form().attract_picture.BringToFront();
-  Click(form().attract_picture);
-  EXPECT_FALSE(form().attract_picture.visible());
-  EXPECT_EQ(Shown(), Screens{screen::kAlbum});
 }
 
 TEST_F(MenuTest, ATouchAtAnyStepOfAnAttractChangeLeadsToAScreen) {

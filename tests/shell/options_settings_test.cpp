@@ -286,7 +286,7 @@ TEST_F(SettingsTest, EachChangesItsOwnLineAndComesBackFromItAndDoesWhatItSays) {
     SCOPED_TRACE(std::string(c.frame) + " " + c.caption);
     // No history, no queue and no settings of the one before.
     for (const char* file : {"sonotik.ini", "queue.dat", "Random_history.dat"}) {
-      std::filesystem::remove(folder.native() / file);
+      folder.Remove(file);
     }
     const auto seen = [&] {
       machine.player.file.clear();
@@ -295,7 +295,7 @@ TEST_F(SettingsTest, EachChangesItsOwnLineAndComesBackFromItAndDoesWhatItSays) {
     };
     Start();
     const std::string before = seen();
-    std::filesystem::remove(folder.native() / "queue.dat");
+    folder.Remove("queue.dat");
     Open();
     Save();
     const std::string ini = folder.Read("sonotik.ini");

@@ -96,7 +96,7 @@ TEST_F(OptionsTest, AFileThatCannotBeWrittenIsToldOfAndHoldsUpNoOther) {
   }
   EXPECT_EQ(Lines("cost.dat")[2], " 0 \r");
   EXPECT_TRUE(form().panel(screen::kOptions).visible());
-  std::filesystem::remove_all(folder.native() / "keyboard.dat");
+  folder.Remove("keyboard.dat");
   Save();
   EXPECT_EQ(machine.messages.shown.size(), 1U);
 }
@@ -256,7 +256,7 @@ TEST_F(OptionsTest, DamagedFilesCostWhatTheyHold) {
         Click(form().options.sections[kKeys]);
       }
     }
-    std::filesystem::remove(folder.native() / f.file);
+    folder.Remove(f.file);
   }
 }
 

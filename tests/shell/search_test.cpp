@@ -224,8 +224,7 @@ TEST_F(SearchTest, AlbumsAreSuggestedWhileSomebodyTypes) {
   EXPECT_EQ(Suggested(), Lines({"Ada - Dawn", "ABBA && Bo - Noon", "Abe - Night", "Bo - Nook"}));
   Type("ABE");
   Click(form().search.suggestions[0]);
-  EXPECT_TRUE(form().panel(screen::kTrackList).showing());
-  EXPECT_FALSE(form().panel(screen::kAlbum).visible());
+  EXPECT_EQ(Shown(), Screens({screen::kSearch, screen::kTrackList}));
   EXPECT_NE(form().track_list.rows[0].title.caption().find("Owls"), std::string::npos);
 
   Begin(SearchMode::kAlbum, "NO");
@@ -351,7 +350,7 @@ TEST_F(SearchTest, ALineOfASpecialListFindsTheFirstRecordWithItsTwoKeys) {
 
 TEST_F(SearchTest, ATrackFileThatCantBeReadShowsAPageAllTheSame) {
   Start();
-  std::filesystem::remove(folder.native() / "Records.rec");
+  folder.Remove("Records.rec");
   std::filesystem::create_directory(folder.native() / "Records.rec");
   Find(SearchMode::kTrack, "SONG");
   EXPECT_EQ(house().boundary.failures(), 1);

@@ -195,7 +195,7 @@ TEST_F(SecondMonitorTest, FullScreenGoesOnAndOffInItsSteps) {
   EXPECT_THAT(calls,
               ElementsAre("RestoreResolution 0 0", "FitWindow 0 0", "SetTaskbarVisible 1 0"));
   // A skin that doesn't tell its size leaves the mode, and whatever was changed is given back.
-  std::filesystem::remove(folder.native() / "skins/Plain/resolution.ini");
+  folder.Remove("skins/Plain/resolution.ini");
   jukebox->effects.ApplySkin();
   switch_it(true);
   EXPECT_THAT(calls, ElementsAre("FitWindow 1 0", "SetTaskbarVisible 0 0"));

@@ -9,23 +9,20 @@ namespace {
 class ShutdownTest : public JukeboxTest {};
 
 TEST_F(ShutdownTest, EndsTheSessionByTheChoiceWithLogOffAndRebootCrossed) {
-  const struct {
-    bool Settings::*choice;
-    std::vector<SessionEnd> ends;
-  } cases[] = {{&Settings::power_shutdown, {SessionEnd::kShutdown}},
-               {&Settings::power_reboot, {SessionEnd::kLogOff}},
-               {&Settings::power_log_off, {SessionEnd::kReboot}},
-               {&Settings::power_down_atx, {SessionEnd::kPowerOff}},
-               {&Settings::power_exit, {}}};
-  for (const auto& c : cases) {
+  const std::pair<bool Settings::*, std::vector<SessionEnd>> cases[] = {
+      {&Settings::power_shutdown, {SessionEnd::kShutdown}},
+      {&Settings::power_reboot, {SessionEnd::kLogOff}},
+      {&Settings::power_log_off, {SessionEnd::kReboot}},
+      {&Settings::power_down_atx, {SessionEnd::kPowerOff}},
+      {&Settings::power_exit, {}}};
+  for (const auto& [choice, ends] : cases) {
     settings.power_exit = false;
-    settings.*c.choice = true;
+    settings.*choice = true;
     Start();
     jukebox->shutdown.power_down();
-    EXPECT_EQ(machine.session.ends, c.ends);
-    EXPECT_TRUE(machine.events.left);
-    EXPECT_TRUE(jukebox->MayClose());
-    settings.*c.choice = false;
+    EXPECT_EQ(machine.session.ends, ends);
+    EXPECT_TRUE(machine.events.left && jukebox->MayClose());
+    settings.*choice = false;
     machine.session.ends.clear();
     machine.events.left = false;
   }

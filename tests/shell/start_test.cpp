@@ -104,8 +104,7 @@ TEST_F(StartTest, AGuestWhoGoesElsewhereIsNotBroughtBack) {
   InRound(1, [&] { jukebox->menu.Show(screen::kQueue); });
   Click(form().play_options.play_now);
   EXPECT_EQ(Playing(), tracks[1]);
-  EXPECT_TRUE(form().panel(screen::kQueue).visible());
-  EXPECT_FALSE(form().panel(screen::kTrackList).visible());
+  EXPECT_EQ(Shown(), Screens{screen::kQueue});
 }
 
 TEST_F(StartTest, AnotherTracksOptionsOpenedMeanwhileStayOpen) {

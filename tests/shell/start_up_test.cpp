@@ -36,7 +36,7 @@ TEST_F(StartUpTest, LogsItsMilestonesBehindThoseOfOtherRuns) {
 }
 
 TEST_F(StartUpTest, WithoutACatalogueTheConfigurationProgramIsStartedAndItEnds) {
-  std::filesystem::remove(folder.native() / "Records.rec");
+  folder.Remove("Records.rec");
   Start();
   EXPECT_EQ(result, StartUpResult::kNoCatalogue);
   EXPECT_EQ(
@@ -53,12 +53,12 @@ TEST_F(StartUpTest, AnyOneOfTheThreeTrackFilesIsEnough) {
     folder.Write(name, "");
     Start();
     EXPECT_EQ(result, StartUpResult::kRunning) << name;
-    std::filesystem::remove(folder.native() / name);
+    folder.Remove(name);
   }
 }
 
 TEST_F(StartUpTest, WithoutAnySettingsThereIsNoJukebox) {
-  std::filesystem::remove(folder.native() / "sonotik.def");
+  folder.Remove("sonotik.def");
   EXPECT_THROW(Jukebox(folder.path(), machine.machine).Start(), RuntimeFailure);
   EXPECT_EQ(Milestones().back(), "Start UP Complete");
 }
@@ -72,7 +72,7 @@ TEST_F(StartUpTest, DamagedDataFilesCostOnlyWhatTheyHold) {
       EXPECT_EQ(result, StartUpResult::kRunning) << name << ": " << bytes;
       EXPECT_TRUE(house().timer1.enabled());
     }
-    std::filesystem::remove(folder.native() / name);
+    folder.Remove(name);
   }
 }
 
@@ -107,26 +107,6 @@ TEST_F(StartUpTest, TheStartSoundIsTheMachinesOwnAndNotATerminals) {
   folder.Write("terminal.ini", "Terminal \\ Master config\r\n\r\nFalse\r\nTrue\r\n");
   Start();
   EXPECT_EQ(Playing(), "");
-}
-
-TEST_F(StartUpTest, TheSeamsRunAtTheirPlaces) {
-  jukebox = std::make_unique<Jukebox>(folder.path(), machine.machine);
-  std::vector<std::string> seen;
-  const auto note = [&](const char* name) {
-    return [&seen, name, this] {
-      seen.push_back(std::string(name) + " after " + std::to_string(Milestones().size()));
-    };
-  };
-  StartUpHooks& hooks = jukebox->start_up.hooks;
-  hooks.genre_scroll_show = note("genre bar");
-  hooks.read_window_style = note("style");
-  hooks.ApplySkin = note("skin");
-  hooks.load_sign = note("sign");
-  hooks.load_history_chart = [&](const std::string& path) { note(path.c_str())(); };
-  jukebox->Start();
-  EXPECT_EQ(seen, (std::vector<std::string>{"genre bar after 1", "style after 7", "skin after 9",
-                                            "sign after 14",
-                                            folder.path() + "\\history\\2024\\01.txt after 16"}));
 }
 
 TEST_F(StartUpTest, ACoverLayoutOfTheSkinIsTakenBeforeTheFirstPage) {

@@ -2,7 +2,6 @@
 // always hold checked after each of them.
 #include <gtest/gtest.h>
 
-#include "files/files.h"
 #include "support/jukebox_test.h"
 
 namespace sonotik {
@@ -42,7 +41,6 @@ class WeekTest : public JukeboxTest {
 
   void Open() {
     Start();
-    ASSERT_EQ(result, StartUpResult::kRunning);
     // Nobody switches it off before its evening ends.
     jukebox->menu.hooks.power_down = [] {};
     // Each add comes by here behind its charge, with its flags still set. The prices are told here
@@ -79,9 +77,7 @@ class WeekTest : public JukeboxTest {
     if (Draw(4) > 0) {
       std::vector<const Control*> controls;
       Collect(form().form, controls);
-      const Rect place =
-          controls[static_cast<size_t>(Draw(static_cast<int>(controls.size())))]->AbsolutePlace();
-      at = {place.left + place.width / 2, place.top + place.height / 2};
+      at = Middle(*controls[static_cast<size_t>(Draw(static_cast<int>(controls.size())))]);
     }
     // What a guest does while a track starts.
     machine.events.on_pump = [this] {
@@ -107,11 +103,9 @@ class WeekTest : public JukeboxTest {
     const int code = 40 + Draw(35);
     const int polls = 1 + Draw(3);
     machine.keys.down.insert(code);
-    for (int i = 0; i <= polls; ++i) {
-      if (i == polls) machine.keys.down.clear();
-      machine.clock.Add(10);
-      machine.timers.FireDue();
-    }
+    Poll(polls);
+    machine.keys.down.clear();
+    Poll();
   }
 
   void DropSpoolFile() {
@@ -121,8 +115,7 @@ class WeekTest : public JukeboxTest {
         " " + std::to_string(Draw(2)) + " \r\n " + std::to_string(Draw(2)) + " \r\n";
     folder.Write("Queue " + std::to_string(Draw(5)) + ".QUE",
                  rubbish ? "rubbish\r\n\r\n\r\n" : flags + AnyPath() + "\r\n");
-    machine.clock.Add(10);
-    machine.timers.FireDue();
+    Poll();
   }
 
   std::string AnyPath() { return paths[static_cast<size_t>(Draw(static_cast<int>(paths.size())))]; }
@@ -151,15 +144,13 @@ class WeekTest : public JukeboxTest {
       ASSERT_FALSE(house().queue.path(i).empty());
       ASSERT_FALSE(house().queue.cover(i).empty());
     }
-    ASSERT_EQ(house().playback.play_now_flag, 0);
-    ASSERT_EQ(house().playback.play_next_flag, 0);
-    ASSERT_FALSE(house().playback.random_in_progress);
+    const PlaybackState& state = house().playback;
+    ASSERT_FALSE(state.play_now_flag || state.play_next_flag || state.random_in_progress);
     ASSERT_EQ(house().credits.count(), earned - paid);
     ASSERT_GE(house().credits.count(), 0);
-    ASSERT_TRUE(house().timer1.enabled());
-    ASSERT_TRUE(house().state_timer.enabled());
+    ASSERT_TRUE(house().timer1.enabled() && house().state_timer.enabled());
     ASSERT_EQ(house().boundary.failures(), rubbish_files);
-    ASSERT_EQ(form().paused.visible(), house().playback.paused);
+    ASSERT_EQ(form().paused.visible(), state.paused);
   }
 
   // Three seconds without anybody: then something plays, is paused, or nothing waits.
@@ -169,30 +160,22 @@ class WeekTest : public JukeboxTest {
   }
 
   void CloseAndReopen() {
-    std::vector<std::string> waiting;
-    for (int i = 0; i < house().queue.count(); ++i) waiting.push_back(house().queue.path(i));
+    const std::vector<std::string> waiting = Queued();
     jukebox->LeaveInOrder();
     ASSERT_TRUE(machine.events.left);
     machine.events.left = false;
-    jukebox.reset();
     machine.clock.Add(18 * 3600 * 1000);
     machine.clock.date.day += 1;
     rubbish_files = 0;
     Open();
-    ASSERT_EQ(house().queue.count(), static_cast<int>(waiting.size()));
-    for (int i = 0; i < house().queue.count(); ++i) {
-      ASSERT_EQ(house().queue.path(i), waiting[static_cast<size_t>(i)]);
-    }
+    ASSERT_EQ(Queued(), waiting);
     ASSERT_EQ(house().credits.count(), 0);
   }
 
   std::mt19937 draw{20240115};
   std::vector<std::string> paths;
-  int paid = 0;
-  int earned = 0;
-  int selections = 0;
+  int paid = 0, earned = 0, selections = 0, rubbish_files = 0;
   bool in_pump = false;
-  int rubbish_files = 0;
 };
 
 TEST_F(WeekTest, NoGuestCoinOrKeyBreaksTheJukebox) {
@@ -219,7 +202,7 @@ TEST_F(WeekTest, NoGuestCoinOrKeyBreaksTheJukebox) {
   }
   // The week was worth its name.
   EXPECT_GT(selections, 100);
-  EXPECT_GT(FileLength(folder.path() + "\\User_history.dat") / 1070, 100);
+  EXPECT_GT(Plays(), 100U);
 }
 
 }  // namespace

@@ -136,6 +136,15 @@ class JukeboxTest : public testing::Test {
   void Choose(const std::string& path, PlayWay way = PlayWay::kPlayNow) {
     house().selection.Choose(path, way);
   }
+  using Screens = std::vector<size_t>;
+  // The screens 0 to 13 that show.
+  Screens Shown() {
+    Screens shown;
+    for (size_t i = 0; i <= screen::kPlayOptions; ++i) {
+      if (form().panel(i).visible()) shown.push_back(i);
+    }
+    return shown;
+  }
   std::string Playing() const { return machine.player.file; }
   std::vector<std::string> Queued() {
     std::vector<std::string> paths;

@@ -42,6 +42,7 @@ class TempFolder {
     return {std::istreambuf_iterator<char>(file), {}};
   }
   bool Has(const std::string& name) const { return std::filesystem::exists(native_ / name); }
+  void Remove(const std::string& name) const { std::filesystem::remove_all(native_ / name); }
 
  private:
   std::filesystem::path native_;
