@@ -191,17 +191,17 @@ TEST_F(AlbumPagesTest, CoversComeByTheOneRule) {
 }
 
 TEST_F(AlbumPagesTest, TheCarouselStandsAnArtistInEachColumn) {
-  const char* const kArtists[] = {"Ada", "ada", "Bob", "Cy", "Di", "Eve", "Eve", "Flo"};
-  std::vector<TestAlbum> albums;
-  for (const char* artist : kArtists) {
-    albums.push_back({std::to_string(albums.size() + 1), artist});
-  }
-  WriteAlbums(albums);
+  WriteAlbums({{"1", "Ada"},
+               {"2", "ada"},
+               {"3", "Bob"},
+               {"4", "Cy"},
+               {"5", "Di"},
+               {"6", "Eve"},
+               {"7", "Eve"},
+               {"8", "Flo"}});
   Start();
   house().cursor.SetPosition(1);
-  house().form1.HideAllScreens();
-  house().form1.ShowScreen(screen::kCarousel);
-  house().carousel.Carousel_show();
+  PressMenu(MenuButton::kCarousel);
   const CarouselScreen& screen = form().carousel;
   EXPECT_EQ(screen.columns[0].artist.caption(), "Ada");
   EXPECT_EQ(house().carousel.PathAt(0, 1), AlbumPath("2"));

@@ -16,38 +16,25 @@ class MenuTest : public JukeboxTest {
 
 TEST_F(MenuTest, EachButtonShowsItsScreenAloneAndBackMeansTheAlbums) {
   Start();
-  std::string calls;
-  ScreenHooks& hooks = jukebox->menu.hooks;
-  hooks.history_first_page = [&] { calls += "first history,"; };
-  hooks.history_show2 = [&] { calls += "history,"; };
-  hooks.top20_first_page = [&] { calls += "first chart,"; };
-  hooks.Top20_show3 = [&] { calls += "chart,"; };
-  hooks.show_genres = [&] { calls += "genres,"; };
-  const struct {
-    MenuButton button;
-    size_t shown;
-    const char* calls;
-    lvButtons_H* back;
-  } cases[] = {
-      {MenuButton::kHistory, screen::kHistory, "first history,history,", &form().history.back},
-      {MenuButton::kTop20, screen::kTop20, "first chart,chart,", &form().top20.back},
-      {MenuButton::kSearch, screen::kSearchChoice, "", nullptr},
-      {MenuButton::kShowQueue, screen::kQueue, "", &form().queue.back},
-      {MenuButton::kOptions, screen::kOptions, "", &form().options.back},
-      {MenuButton::kDecades, screen::kDecades, "", &form().decades.back},
-      {MenuButton::kCarousel, screen::kCarousel, "", &form().carousel.back},
-      {MenuButton::kGenres, screen::kGenre, "genres,", &form().genre.back},
-      {MenuButton::kAlbumView, screen::kAlbum, "", nullptr}};
+  using enum MenuButton;
+  const std::tuple<MenuButton, size_t, lvButtons_H*> cases[] = {
+      {kHistory, screen::kHistory, &form().history.back},
+      {kTop20, screen::kTop20, &form().top20.back},
+      {kSearch, screen::kSearchChoice, nullptr},
+      {kShowQueue, screen::kQueue, &form().queue.back},
+      {kOptions, screen::kOptions, &form().options.back},
+      {kDecades, screen::kDecades, &form().decades.back},
+      {kCarousel, screen::kCarousel, &form().carousel.back},
+      {kGenres, screen::kGenre, &form().genre.back},
+      {kAlbumView, screen::kAlbum, nullptr}};
   form().panel(screen::kChartChoice).SetVisible(true);
-  for (const auto& c : cases) {
-    calls.clear();
+  for (const auto& [button, shown, back] : cases) {
     form().pin_screen.SetVisible(true);
-    jukebox->menu.Open(c.button);
-    EXPECT_EQ(Shown(), Screens{c.shown});
-    EXPECT_EQ(calls, c.calls);
+    jukebox->menu.Open(button);
+    EXPECT_EQ(Shown(), Screens{shown});
     EXPECT_FALSE(form().pin_screen.visible());
-    if (c.back == nullptr) continue;
-    Click(*c.back);
+    if (back == nullptr) continue;
+    Click(*back);
     EXPECT_EQ(Shown(), Screens{screen::kAlbum});
   }
   EXPECT_TRUE(form().panel(screen::kChartChoice).visible());

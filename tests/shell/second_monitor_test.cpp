@@ -28,7 +28,11 @@ class SecondMonitorTest : public JukeboxTest {
   void PlugIn() {
     machine.displays.monitors = {{.whole = kFirst, .primary = true}, {.whole = kRoom}};
   }
-  void MoveSecondMonitor() { jukebox->effects.displays.MoveSecondMonitor(); }
+  template <typename Value>
+  void Set(Value Settings::*option, Value value) {
+    house().settings.*option = value;
+    jukebox->effects.displays.MoveSecondMonitor();
+  }
   // Calls by which a player would be heard.
   int Heard() const {
     int heard = 0;
@@ -131,8 +135,7 @@ TEST_F(SecondMonitorTest, ShowsForVideosAndForSongsAsItIsSet) {
   for (const bool videos_only : {false, true}) {
     Start();
     EXPECT_TRUE(machine.displays.second_shown) << "the file knows nothing of \"Videos Only\"";
-    house().settings.second_monitor_videos_only = videos_only;
-    MoveSecondMonitor();
+    Set(&Settings::second_monitor_videos_only, videos_only);
     EXPECT_EQ(machine.displays.second_shown, !videos_only) << "at once";
     Choose(clip);
     EXPECT_TRUE(machine.displays.second_shown);
@@ -140,8 +143,7 @@ TEST_F(SecondMonitorTest, ShowsForVideosAndForSongsAsItIsSet) {
     Choose(song);
     EXPECT_EQ(machine.displays.second_shown, !videos_only);
     house().playback.paused = true;
-    house().settings.second_monitor_videos_only = !videos_only;
-    MoveSecondMonitor();
+    Set(&Settings::second_monitor_videos_only, !videos_only);
     EXPECT_EQ(machine.displays.second_shown, videos_only);
   }
 }
@@ -158,16 +160,13 @@ TEST_F(SecondMonitorTest, APictureMovesBetweenTheWindowsWhileItPlays) {
   EXPECT_FALSE(machine.displays.second_shown);
   const int heard = Heard();
   for (int i = 0; i < 3; ++i) {
-    house().settings.use_second_monitor = true;
-    MoveSecondMonitor();
+    Set(&Settings::use_second_monitor, true);
     EXPECT_TRUE(machine.displays.second_shown);
     EXPECT_FALSE(screen.video.visible() || screen.full_screen.visible());
     EXPECT_EQ(machine.player.placement.host, VideoHost::kSecondMonitor);
-    house().settings.second_monitor = i % 2;
-    MoveSecondMonitor();
+    Set(&Settings::second_monitor, i % 2);
     EXPECT_EQ(machine.player.placement.width, i % 2 == 0 ? 1280 : 1920);
-    house().settings.use_second_monitor = false;
-    MoveSecondMonitor();
+    Set(&Settings::use_second_monitor, false);
     EXPECT_FALSE(machine.displays.second_shown);
     EXPECT_TRUE(screen.video.visible() && screen.full_screen.visible());
     EXPECT_EQ(machine.player.placement, box);
