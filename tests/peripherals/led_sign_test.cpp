@@ -108,18 +108,5 @@ TEST_F(SignTest, CommitChangesHandsTheSettingsToThePortAndSavesNothing) {
   EXPECT_FALSE(folder.Has("betabrite.ini"));
 }
 
-TEST_F(SignTest, AFileCutAnywhereCostsNothingButTheSign) {
-  const std::string whole = "Betabrite config\r\n9600,N,8,1\r\n 1 \r\n 1 \r\n 1 \r\n";
-  const std::string app_path = folder.path();
-  for (size_t length = 0; length < whole.size() - 5; ++length) {
-    folder.Write("betabrite.ini", whole.substr(0, length));
-    SignSettings sign(app_path);
-    EXPECT_THROW(sign.LoadSign(), RuntimeFailure) << length;
-    EXPECT_FALSE(sign.enabled) << length;
-  }
-  Start();
-  EXPECT_EQ(result, StartUpResult::kRunning);
-}
-
 }  // namespace
 }  // namespace sonotik

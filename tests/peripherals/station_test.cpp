@@ -169,20 +169,12 @@ TEST_F(StationTest, ATerminalTakesThePriceAndGivesItBackWhenItsShareIsGone) {
   EXPECT_TRUE(folder.Has("shared/Queue.QUE"));
 }
 
-TEST_F(StationTest, ADamagedTerminalFileLeavesTheStationAlone) {
-  const std::string whole = "Terminal \\ Master config\r\n\\share\\\r\nTrue\r\nTrue\r\n";
+TEST_F(StationTest, ABoxThatIsNoFolderTakesNoSelection) {
   const std::string app_path = folder.path();
   BoundedCalls share;
-  for (size_t length = 0; length < whole.size() - 6; ++length) {
-    folder.Write("terminal.ini", whole.substr(0, length));
-    Network network(app_path, share);
-    EXPECT_THROW(network.LoadTerminal(), RuntimeFailure) << length;
-    EXPECT_FALSE(network.master() || network.terminal()) << length;
-    EXPECT_EQ(network.shared_folder(), "") << length;
-  }
   for (const std::string& box : {std::string(100000, 'x') + "\\", std::string("..\\gone\\"),
                                  folder.path() + "\\terminal.ini\\"}) {
-    folder.Write("terminal.ini", "x\r\n" + box + "\r\nFalse\r\nTrue\r\n");
+    BecomeTerminal(box);
     Network network(app_path, share);
     network.LoadTerminal();
     EXPECT_THROW(network.WriteSpool({0, 0, "\\m\\1.wav"}), RuntimeFailure) << box.substr(0, 20);

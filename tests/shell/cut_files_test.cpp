@@ -1,4 +1,4 @@
-// The files of the jukebox alone in the room, cut at each of their bytes.
+// The files of the folder, cut at each of their bytes or lines and with anything in them.
 #include <gtest/gtest.h>
 
 #include "support/jukebox_test.h"
@@ -6,22 +6,64 @@
 namespace sonotik {
 namespace {
 
+using namespace std::string_view_literals;
+
 class CutFilesTest : public JukeboxTest {
  protected:
-  // A start with each beginning of the file; the check sees the jukebox behind its first tick.
+  // A start with these bytes in the file, and its first tick.
+  void StartWith(const std::string& name, const std::string& bytes) {
+    folder.Write(name, bytes);
+    Start();
+    ASSERT_EQ(result, StartUpResult::kRunning) << name << ": " << bytes;
+    Advance(1);
+    EXPECT_TRUE(house().state_timer.enabled() && house().timer1.enabled()) << name << ": " << bytes;
+    EXPECT_LE(house().boundary.failures(), 1) << name << ": " << bytes;
+  }
+  // With each beginning of the file.
   void CutAtEachByte(const std::string& name, const std::string& whole, size_t step,
                      const std::function<void(size_t length)>& check) {
     for (size_t length = 0; length <= whole.size(); length += step) {
-      folder.Write(name, whole.substr(0, length));
-      Start();
-      ASSERT_EQ(result, StartUpResult::kRunning) << length;
-      Advance(1);
-      EXPECT_TRUE(house().state_timer.enabled()) << length;
-      EXPECT_LE(house().boundary.failures(), 1) << length;
+      StartWith(name, whole.substr(0, length));
       check(length);
     }
   }
 };
+
+TEST_F(CutFilesTest, LinesMayBeMissingOrHoldAnything) {
+  const std::pair<const char*, int> files[] = {
+      {"permissions.ini", 10}, {"keyboard.dat", 35}, {"cost.dat", 9},         {"queue.dat", 1},
+      {"random.dat", 1},       {"songfacts.dat", 1}, {"User_history.dat", 1}, {"Records.cvr", 1}};
+  for (const auto& [name, lines] : files) {
+    for (const std::string_view bad : {""sv, "word\r\n"sv, " 99999999999 \r\n"sv, "-7 \r\n"sv,
+                                       " 200 \r\n"sv, "\""sv, "\r\n"sv, "\0\0\0"sv}) {
+      std::string text;
+      for (int good = 0; good < lines; ++good, text += " 1 \r\n") {
+        // Cut at every line; what is no number stands first, second and last.
+        if (!bad.empty() && good > 1 && good < lines - 1) continue;
+        StartWith(name, text + std::string(bad));
+        // No list shows an item that it doesn't have.
+        jukebox->menu.Open(MenuButton::kOptions);
+        for (const lvButtons_H& section : form().options.sections) Click(section);
+      }
+    }
+    folder.Remove(name);
+  }
+}
+
+TEST_F(CutFilesTest, ASignOrAStationThatIsNotWholeIsNone) {
+  const std::string sign = "Betabrite config\r\n9600,N,8,1\r\n 1 \r\n 1 \r\n 1 \r\n";
+  CutAtEachByte("betabrite.ini", sign, 1, [&](size_t length) {
+    EXPECT_EQ(house().sign.enabled, length >= sign.size() - 3) << length;
+  });
+  folder.Remove("betabrite.ini");
+  const std::string station = "Terminal \\ Master config\r\n\\share\\\r\nTrue\r\nTrue\r\n";
+  CutAtEachByte("terminal.ini", station, 1, [&](size_t length) {
+    const bool whole = length >= station.size() - 2;
+    EXPECT_EQ(house().network.terminal(), whole) << length;
+    EXPECT_FALSE(house().network.master()) << length;
+    EXPECT_EQ(house().network.shared_folder(), whole ? "\\share\\" : "") << length;
+  });
+}
 
 TEST_F(CutFilesTest, TheGenreListsHoldNoNameThatWasNotThere) {
   const std::set<std::string> names = {"Blues", "Jazz", "Folk"};

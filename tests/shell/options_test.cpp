@@ -236,29 +236,5 @@ TEST_F(OptionsTest, GenresGoOverAndComeBackTogether) {
   EXPECT_TRUE(house().lists.selected_genres.empty());
 }
 
-// Their files cut at every line, with words and with numbers of any size: the pages open all the
-// same, and no list shows an item that it doesn't have.
-TEST_F(OptionsTest, DamagedFilesCostWhatTheyHold) {
-  const struct {
-    const char* file;
-    int lines;
-  } files[] = {{"permissions.ini", 10}, {"keyboard.dat", 35}, {"cost.dat", 9}};
-  for (const auto& f : files) {
-    for (const char* bad : {"", "word", " 99999999999 ", "-7 ", " 200 "}) {
-      for (int good = 0; good < f.lines; ++good) {
-        // Cut at every line; what is no number stands first, second and last.
-        if (*bad != '\0' && good > 1 && good < f.lines - 1) continue;
-        std::string text;
-        for (int i = 0; i < good; ++i) text += " 1 \r\n";
-        folder.Write(f.file, *bad == '\0' ? text : text + bad + "\r\n");
-        Open();
-        EXPECT_EQ(result, StartUpResult::kRunning) << f.file << good << bad;
-        Click(form().options.sections[kKeys]);
-      }
-    }
-    folder.Remove(f.file);
-  }
-}
-
 }  // namespace
 }  // namespace sonotik

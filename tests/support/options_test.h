@@ -96,12 +96,11 @@ class OptionsTest : public JukeboxTest {
   std::vector<size_t> ChangedLines(const std::string& file, const std::string& before) const {
     std::istringstream text(before);
     std::vector<size_t> changed;
-    size_t number = 0;
-    for (const std::string& line : Lines(file)) {
+    const std::vector<std::string> lines = Lines(file);
+    for (size_t i = 0; i < lines.size(); ++i) {
       std::string old;
       std::getline(text, old);
-      if (line != old) changed.push_back(number);
-      ++number;
+      if (lines[i] != old) changed.push_back(i);
     }
     return changed;
   }
