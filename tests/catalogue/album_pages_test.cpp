@@ -53,24 +53,20 @@ TEST_F(AlbumPagesTest, LettersJumpByTheirOwnArithmeticAndNeverReadTheLastRecord)
   WriteCount(52, "new.cvr");
   Start();
   using enum JumpControl;
-  const struct {
-    CatalogueSource source;
-    char letter;
-    JumpControl control;
-    int position;  // from 1
-  } jumps[] = {{CatalogueSource::kRecords, 'M', kLetterButton, 25},
-               {CatalogueSource::kRecords, 'M', kStrip, 14},
-               {CatalogueSource::kRecords, 'A', kStripThumb, 2 - 12},
-               {CatalogueSource::kRecords, '!', kLetterButton, 1},
-               // The strip looks at fewer sources than the buttons.
-               {CatalogueSource::kNew, 'M', kStrip, 1},
-               {CatalogueSource::kNew, 'M', kStripThumb, 1},
-               {CatalogueSource::kNew, 'M', kLetterButton, 25}};
-  for (const auto& jump : jumps) {
-    house().cursor.source = jump.source;
+  using S = CatalogueSource;
+  // From position 1. The strip looks at fewer sources than the buttons.
+  const std::tuple<S, char, JumpControl, int> jumps[] = {{S::kRecords, 'M', kLetterButton, 25},
+                                                         {S::kRecords, 'M', kStrip, 14},
+                                                         {S::kRecords, 'A', kStripThumb, 2 - 12},
+                                                         {S::kRecords, '!', kLetterButton, 1},
+                                                         {S::kNew, 'M', kStrip, 1},
+                                                         {S::kNew, 'M', kStripThumb, 1},
+                                                         {S::kNew, 'M', kLetterButton, 25}};
+  for (const auto& [source, letter, control, position] : jumps) {
+    house().cursor.source = source;
     house().cursor.SetPosition(1);
-    house().letter_jump.JumpTo(jump.letter, jump.control);
-    EXPECT_EQ(house().cursor.position(), jump.position) << jump.letter;
+    house().letter_jump.JumpTo(letter, control);
+    EXPECT_EQ(house().cursor.position(), position) << letter;
   }
   house().cursor.source = CatalogueSource::kRecords;
   Click(form().album.letter_buttons[12]);
@@ -101,26 +97,20 @@ TEST_F(AlbumPagesTest, AFingerOnTheThumbMovesItAndJumpsOnRelease) {
 }
 
 TEST_F(AlbumPagesTest, TabsChangeSourceAndKindEachInItsOwnWay) {
-  const struct {
-    AlbumTab tab;
-    CatalogueSource before;
-    CatalogueSource after;
-    int kind;  // from 1 before
-  } cases[] = {{AlbumTab::kAudio, CatalogueSource::kRecords, CatalogueSource::kRecords, 1},
-               {AlbumTab::kAudio, CatalogueSource::kVideos, CatalogueSource::kRecords, 0},
-               {AlbumTab::kVideo, CatalogueSource::kRecords, CatalogueSource::kVideos, 1},
-               {AlbumTab::kKaraoke, CatalogueSource::kRecords, CatalogueSource::kKaraoke, 2},
-               {AlbumTab::kKaraoke, CatalogueSource::kKaraoke, CatalogueSource::kKaraoke, 2},
-               {AlbumTab::kNewSongs, CatalogueSource::kRecords, CatalogueSource::kNew, 4},
-               {AlbumTab::kNewSongs, CatalogueSource::kKaraoke, CatalogueSource::kKaraoke, 4},
-               {AlbumTab::kMostPlayed, CatalogueSource::kVideos, CatalogueSource::kVideos, 1}};
+  using T = AlbumTab;
+  using S = CatalogueSource;
+  const std::tuple<T, S, S, int> presses[] = {
+      {T::kAudio, S::kRecords, S::kRecords, 1},    {T::kAudio, S::kVideos, S::kRecords, 0},
+      {T::kVideo, S::kRecords, S::kVideos, 1},     {T::kKaraoke, S::kRecords, S::kKaraoke, 2},
+      {T::kKaraoke, S::kKaraoke, S::kKaraoke, 2},  {T::kNewSongs, S::kRecords, S::kNew, 4},
+      {T::kNewSongs, S::kKaraoke, S::kKaraoke, 4}, {T::kMostPlayed, S::kVideos, S::kVideos, 1}};
   Start();
-  for (const auto& c : cases) {
-    house().cursor.source = c.before;
+  for (const auto& [tab, before, after, kind] : presses) {
+    house().cursor.source = before;
     house().cursor.media_kind = 1;
-    house().pages.PressTab(c.tab);
-    EXPECT_EQ(house().cursor.source, c.after);
-    EXPECT_EQ(house().cursor.media_kind, c.kind);
+    house().pages.PressTab(tab);
+    EXPECT_EQ(house().cursor.source, after);
+    EXPECT_EQ(house().cursor.media_kind, kind);
   }
 }
 

@@ -12,23 +12,19 @@ class TrackListTest : public JukeboxTest {
 };
 
 TEST_F(TrackListTest, ACompilationIsKnownFromItsSecondRowOn) {
-  const struct {
-    bool numbers, track_first;
-    const char *first, *second;
-  } cases[] = {{false, false, "Dawn", "Bob - Dusk"},
-               {true, false, "01. Dawn", "02. Bob - Dusk"},
-               {false, true, "Dawn", "Dusk - Bob"},
-               {true, true, "01. Dawn", "02. Dusk - Bob"}};
   WriteTrack("Mix", "1.wav", "Ada", "Dawn");
   WriteTrack("Mix", "2.wav", "Bob", "Dusk");
   WriteAlbums({{"Mix", "Various Artists"}});
   Start();
-  for (const auto& c : cases) {
-    house().settings.display_track_numbers = c.numbers;
-    house().settings.show_track_first = c.track_first;
-    house().track_list.Open(AlbumPath("Mix"));
-    EXPECT_EQ(Row(0), c.first);
-    EXPECT_EQ(Row(1), c.second);
+  for (const bool numbers : {false, true}) {
+    for (const bool track_first : {false, true}) {
+      house().settings.display_track_numbers = numbers;
+      house().settings.show_track_first = track_first;
+      house().track_list.Open(AlbumPath("Mix"));
+      EXPECT_EQ(Row(0), numbers ? "01. Dawn" : "Dawn");
+      EXPECT_EQ(Row(1),
+                std::string(numbers ? "02. " : "") + (track_first ? "Dusk - Bob" : "Bob - Dusk"));
+    }
   }
   EXPECT_EQ(form().track_list.artist_heading.caption(), "Artist : Various Artists");
   EXPECT_EQ(form().track_list.album_heading.caption(), "Album : Mix");
@@ -104,20 +100,17 @@ TEST_F(TrackListTest, ADoubleClickDoesWhatTheOperatorChose) {
   WriteTrack("Two", "2.wav");
   WriteAlbums({{"Two", "Ada"}});
   settings.enable_double_click = true;
-  const struct {
-    int action;
-    bool plays;
-    int place;  // of the track in a queue of one other
-  } cases[] = {{0, true, -1}, {1, false, 0}, {2, false, 1}, {3, false, -1}};
-  for (const auto& c : cases) {
+  // The operator's choice, and the track's place in a queue of one other.
+  const std::pair<int, int> cases[] = {{0, -1}, {1, 0}, {2, 1}, {3, -1}};
+  for (const auto& [action, place] : cases) {
     Start();
-    house().settings.double_click_action = c.action;
+    house().settings.double_click_action = action;
     house().queue.Append("\\m\\other.wav", "");
     Click(form().album.covers[0].cover);
     Click(form().track_list.rows[0].title);
     form().form.DoubleClickMouse(Middle(form().track_list.rows[0].title));
-    EXPECT_EQ(Playing() == path, c.plays) << c.action;
-    EXPECT_EQ(house().queue.IndexOf(path, 0), c.place) << c.action;
+    EXPECT_EQ(Playing() == path, action == 0) << action;
+    EXPECT_EQ(house().queue.IndexOf(path, 0), place) << action;
     machine.player = TestPlayer();
   }
 }

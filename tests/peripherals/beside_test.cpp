@@ -26,27 +26,20 @@ class BesideTest : public JukeboxTest {
 
 TEST_F(BesideTest, TheMicrophoneFollowsTheKindOfTrackAndTheLineIsNeverOpenedAgain) {
   Start();
-  const struct {
-    const std::string& path;
-    const char *script, *text;
-    Calls mixer, commands;
-  } cases[] = {
-      {song, "mute.txt", nullptr, {"line 1", "mic 1"}, {}},
-      {song,
-       "mute.txt",
-       "mute -a \"b, c\"\r\nnot this\r\n",
-       {"line 1", "mic 1"},
-       {"mute -a \"b, c\""}},
-      {song, "mute.txt", "", {"line 1", "mic 1"}, {}},
-      {song, "mute.txt", "\r\nnot this", {"line 1", "mic 1"}, {}},
-      {film, "unmute.txt", nullptr, {"line 1", "mic 0"}, {}},
-      {film, "unmute.txt", "open", {"line 1", "mic 0"}, {"open"}},
-  };
-  for (const auto& each : cases) {
-    if (each.text != nullptr) folder.Write(each.script, each.text);
-    Play(each.path);
-    EXPECT_EQ(machine.mixer.calls, each.mixer) << each.path;
-    EXPECT_EQ(machine.processes.started, each.commands) << each.path;
+  // The scripts' first lines are their commands.
+  const std::tuple<std::string, std::optional<std::string>, Calls> scripts[] = {
+      {"mute.txt", std::nullopt, {}},
+      {"mute.txt", "mute -a \"b, c\"\r\nnot this\r\n", {"mute -a \"b, c\""}},
+      {"mute.txt", "", {}},
+      {"mute.txt", "\r\nnot this", {}},
+      {"unmute.txt", std::nullopt, {}},
+      {"unmute.txt", "open", {"open"}}};
+  for (const auto& [script, text, commands] : scripts) {
+    if (text) folder.Write(script, *text);
+    const bool mutes = script == "mute.txt";
+    Play(mutes ? song : film);
+    EXPECT_EQ(machine.mixer.calls, (Calls{"line 1", mutes ? "mic 1" : "mic 0"}));
+    EXPECT_EQ(machine.processes.started, commands) << script;
   }
   machine.mixer.calls.clear();
   Advance(40);

@@ -27,19 +27,14 @@ TEST_F(FactDisplayTest, FactsAreSpacedOverTheTrackAndAnEmptyOneUsesItsTurn) {
   house().fact_display.show_fact_on_sign = [&](const std::string& fact) { sign.push_back(fact); };
   house().fact_display.show_track_on_sign = [&] { sign.push_back("track"); };
   Choose(dawn);
-  // Whatever screen the guest turns to.
-  form().ShowScreen(screen::kNowPlaying);
-  EXPECT_EQ(form().form.children().back(), &form().song_fact);
-  const struct {
-    int seconds;
-    const char* fact;
-  } moments[] = {{0, "1"},  {12, "1"}, {13, "-"}, {20, "-"}, {21, "2"}, {33, "2"},
-                 {34, "-"}, {42, "-"}, {62, "-"}, {63, "4"}, {84, "5"}, {97, "-"}};
+  const std::pair<int, const char*> moments[] = {{0, "1"},  {12, "1"}, {13, "-"}, {20, "-"},
+                                                 {21, "2"}, {33, "2"}, {34, "-"}, {42, "-"},
+                                                 {62, "-"}, {63, "4"}, {84, "5"}, {97, "-"}};
   int now = 0;
-  for (const auto& moment : moments) {
-    Advance(moment.seconds - now);
-    now = moment.seconds;
-    EXPECT_EQ(Fact(), moment.fact) << now;
+  for (const auto& [second, fact] : moments) {
+    Advance(second - now);
+    now = second;
+    EXPECT_EQ(Fact(), fact) << now;
   }
   EXPECT_EQ(sign,
             (std::vector<std::string>{"1", "track", "2", "track", "4", "track", "5", "track"}));

@@ -3,7 +3,6 @@
 
 #include <set>
 
-#include "files/files.h"
 #include "playback/genre_lists.h"
 #include "support/jukebox_test.h"
 
@@ -24,6 +23,16 @@ class RandomPlayTest : public JukeboxTest {
       bytes += TrackBytes(tracks.back(), "");
     }
     folder.Write("Records.rec", bytes);
+  }
+  // What the machine picks by itself, moment by moment.
+  std::vector<std::string> Picks(int count) {
+    std::vector<std::string> played;
+    for (int i = 0; i < count; ++i) {
+      machine.clock.Add(7);
+      house().random_play.Random_Play();
+      if (!Playing().empty()) played.push_back(Playing());
+    }
+    return played;
   }
   std::vector<std::string> tracks;
 };
@@ -57,12 +66,7 @@ TEST_F(RandomPlayTest, SongsAreNotRepeatedWhileThereAreOthers) {
   settings.do_not_repeat = true;
   WriteTracks(6);
   Start();
-  std::vector<std::string> played;
-  for (int i = 0; i < 200; ++i) {
-    machine.clock.Add(7);
-    house().random_play.Random_Play();
-    played.push_back(Playing());
-  }
+  const std::vector<std::string> played = Picks(200);
   int repeats = 0;
   for (size_t i = 3; i < played.size(); ++i) {
     repeats +=
@@ -70,7 +74,7 @@ TEST_F(RandomPlayTest, SongsAreNotRepeatedWhileThereAreOthers) {
   }
   // After so many rounds as are remembered a repeat is taken, which must stay rare.
   EXPECT_LT(repeats, 60);
-  EXPECT_EQ(std::set<std::string>(played.begin(), played.end()).size(), 6u);
+  EXPECT_EQ(std::set(played.begin(), played.end()).size(), 6u);
   EXPECT_EQ(house().random_play.recent_songs()[0], Playing());
 }
 
@@ -79,14 +83,13 @@ TEST_F(RandomPlayTest, OneTrackPlaysAgainAndACollectionThatIsGonePlaysNothing) {
   settings.do_not_repeat_count = 10;
   WriteTracks(1);
   Start();
-  for (int i = 0; i < 20; ++i) house().random_play.Random_Play();
-  EXPECT_EQ(Playing(), tracks[0]);
+  EXPECT_EQ(Picks(20), std::vector<std::string>(20, tracks[0]));
   EXPECT_EQ(Plays(kRandomHistory), 20U);
   folder.Remove("music");
-  house().random_play.Random_Play();
+  Picks(1);
   EXPECT_EQ(Plays(kRandomHistory), 20U);
   house().settings.random_from_audio = false;
-  house().random_play.Random_Play();
+  Picks(1);
   EXPECT_FALSE(house().playback.random_in_progress);
 }
 
@@ -98,13 +101,8 @@ TEST_F(RandomPlayTest, AGenreGivesAnyTrackOfAnyOfItsAlbums) {
   folder.Write("genres/Empty.cvr", "");
   Start();
   house().lists.selected_genres = {"Rock", "Empty", "not there"};
-  std::set<std::string> played;
-  for (int i = 0; i < 100; ++i) {
-    machine.clock.Add(13);
-    house().random_play.Random_Play();
-    if (!Playing().empty()) played.insert(Playing());
-  }
-  EXPECT_EQ(played, std::set<std::string>{rock});
+  const std::vector<std::string> played = Picks(100);
+  EXPECT_EQ(std::set(played.begin(), played.end()), std::set{rock});
   EXPECT_FALSE(folder.Has("genres/not there.cvr"));
 }
 

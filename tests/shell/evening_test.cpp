@@ -269,17 +269,6 @@ TEST_F(EveningTest, AFailingHandlerGivesItsTimerBack) {
   EXPECT_TRUE(house().timer1.enabled());
 }
 
-TEST_F(EveningTest, NothingIsPaintedWhileNothingChanges) {
-  settings.show_time_and_date = false;
-  Start();
-  Advance(3);
-  form().form.TakeDirty();
-  int dirtied = 0;
-  form().form.on_dirty = [&] { ++dirtied; };
-  Advance(20);
-  EXPECT_EQ(dirtied, 0);
-}
-
 TEST_F(EveningTest, ADuplicateCanBeLeftByATouchOnly) {
   settings.allow_duplicates_in_queue = false;
   Start();

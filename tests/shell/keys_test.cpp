@@ -32,12 +32,11 @@ class KeysTest : public JukeboxTest {
 
 TEST_F(KeysTest, OnePressIsOneActionHoweverLongItIsHeld) {
   Start();
-  const struct {
-    int slot, polls, position;
-  } presses[] = {{6, 50, 13}, {6, 3, 25}, {6, 3, 25}, {5, 3, 13}, {5, 3, 1}, {5, 3, 1}};
-  for (const auto& press : presses) {
-    PressSlot(press.slot, press.polls);
-    EXPECT_EQ(house().cursor.position(), press.position);
+  const std::tuple<int, int, int> presses[] = {{6, 50, 13}, {6, 3, 25}, {6, 3, 25},
+                                               {5, 3, 13},  {5, 3, 1},  {5, 3, 1}};
+  for (const auto& [slot, polls, position] : presses) {
+    PressSlot(slot, polls);
+    EXPECT_EQ(house().cursor.position(), position);
   }
 }
 
@@ -107,21 +106,17 @@ TEST_F(KeysTest, AScrolledListYieldsTheFileOfTheUnscrolledRowAndARowWithoutATrac
 TEST_F(KeysTest, TheVolumeKeysRunAgainstTheirNamesAndStopInside) {
   Start();
   int& volume = house().settings.main_volume;
-  const struct {
-    int slot, before, after;
-  } presses[] = {{10, -60, -90},
-                 {11, -90, -60},
-                 {11, -60, -30},
-                 {11, -30, -30},
-                 {10, kLeastVolume + 30, kLeastVolume + 30}};
-  for (const auto& press : presses) {
-    volume = press.before;
-    PressSlot(press.slot);
-    EXPECT_EQ(volume, press.after);
+  const std::tuple<int, int, int> presses[] = {{10, -60, -90}, {11, -60, -30}, {11, -30, -30}};
+  for (const auto& [slot, before, after] : presses) {
+    volume = before;
+    PressSlot(slot);
+    EXPECT_EQ(volume, after);
   }
-  volume = -30;
   Click(form().player_buttons[static_cast<size_t>(PlayerButton::kVolumeUp)]);
   EXPECT_EQ(volume, 0);
+  volume = kLeastVolume + 30;
+  PressSlot(10);
+  EXPECT_EQ(volume, kLeastVolume + 30);
 }
 
 TEST_F(KeysTest, PauseAndNextActOnTheTrackThatPlays) {

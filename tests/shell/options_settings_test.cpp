@@ -40,10 +40,9 @@ class SettingsTest : public OptionsTest {
     }
     folder.Write("music/Day/9.wav", "no tag");
     clip = WriteTrack("Night", "1.mpg");
-    const std::string sung = WriteTrack("Sung", "1.wav");
     folder.Write("Records.rec", tracks);
     folder.Write("videos.rec", TrackBytes(clip, "x"));
-    folder.Write("karaoke.rec", TrackBytes(sung, "x"));
+    folder.Write("karaoke.rec", TrackBytes(WriteTrack("Sung", "1.wav"), "x"));
     folder.Write("random.dat", " 0 \r\n\r\n 1 \r\nJazz\r\n\r\n");
     WriteAlbums({{"Night", "Eve"}}, "genres/Jazz.cvr");
     WriteAlbums({{"Night", "Eve"}}, "videos.cvr");
@@ -53,6 +52,11 @@ class SettingsTest : public OptionsTest {
 
   Settings& now() { return house().settings; }
   static std::string Look(const Control& control) { return control.visible() ? "shown" : "hidden"; }
+  static std::string Joined(const std::vector<std::string>& calls) {
+    std::string text;
+    for (const std::string& call : calls) text += call + " ";
+    return text;
+  }
   std::string Screens() {
     std::string shown = form().pin_screen.visible() ? "pin " : "";
     for (const Panel& panel : form().panels) shown += panel.visible() ? '1' : '0';
@@ -67,15 +71,7 @@ class SettingsTest : public OptionsTest {
     house().track_list.SelectRow(0);
     return form().track_list;
   }
-  TestPlayer& Play(const std::string& path) {
-    Choose(path);
-    return machine.player;
-  }
-  std::string Queued() {
-    std::string paths;
-    for (int i = 0; i < house().queue.count(); ++i) paths += house().queue.path(i) + "\n";
-    return paths + machine.player.file;
-  }
+  std::string Heard() { return Joined(Queued()) + Playing(); }
   std::string Off() {
     house().queue.Append(songs[0], "");
     machine.session.ends.clear();
@@ -83,8 +79,7 @@ class SettingsTest : public OptionsTest {
     jukebox->menu.hooks.power_down();
     std::string seen = folder.Has("queue.dat") ? folder.Read("queue.dat") : "";
     for (const SessionEnd end : machine.session.ends) seen += std::to_string(static_cast<int>(end));
-    for (const std::string& program : machine.processes.started) seen += program;
-    return seen;
+    return seen + Joined(machine.processes.started);
   }
   std::string Pin() {
     now().prompt_for_pin = true;
@@ -99,7 +94,7 @@ class SettingsTest : public OptionsTest {
     for (int i = 0; i < 24; ++i) {
       machine.clock.Add(i % 3 * 7);
       house().random_play.Random_Play();
-      files += machine.player.file + "\n";
+      files += Playing() + "\n";
     }
     return files;
   }
@@ -134,44 +129,25 @@ class SettingsTest : public OptionsTest {
     });
   }
   std::string Idle(double seconds) {
-    Play(songs[0]);
+    Choose(songs[0]);
     Advance(seconds);
     return Screens();
   }
   std::string TouchTwice() {
     Album().rows[1].title.on_double_click();
-    return Queued() + Screens();
-  }
-  void Find(const std::string& text) {
-    PressMenu(MenuButton::kSearch);
-    Click(form().search_choice.modes[static_cast<size_t>(SearchMode::kTrack)]);
-    for (const char c : text) {
-      SearchScreen& screen = form().search;
-      Click(c <= '9' ? screen.digits[static_cast<size_t>(c - '0')]
-                     : screen.keys[static_cast<size_t>(c - 'A')]);
-    }
-    Click(form().search.search);
+    return Heard() + Screens();
   }
   CoverPosition& Cover() { return form().album.covers[0]; }
-  template <typename Calls>
-  static std::string Joined(const Calls& calls) {
-    std::string text;
-    for (const std::string& call : calls) text += call + " ";
-    return text;
-  }
-
-  const std::vector<SettingCase>& Cases() const { return cases_; }
 
   std::vector<std::string> songs;
   std::string clip;
 
- private:
   // Neither the digits of a keypad nor the order of the attract pictures does anything; that is
   // meant.
-  const std::vector<SettingCase> cases_ = {
-    {kGeneral, "Play Options...", "Shuffle Queue Each Play", K::kCheck, 6, 0, [this] { for (const std::string& song : songs) house().queue.Append(song, ""); Advance(1); return Queued(); }},
-    {kGeneral, "Play Options...", "Mute LINE IN on Play", K::kCheck, 31, 0, [this] { machine.mixer.calls.clear(); Play(songs[0]); return Joined(machine.mixer.calls); }},
-    {kGeneral, "Play Options...", "Enable MIC on Videos", K::kCheck, 78, 0, [this] { machine.mixer.calls.clear(); Play(clip); return Joined(machine.mixer.calls); }},
+  const std::vector<SettingCase> cases = {
+    {kGeneral, "Play Options...", "Shuffle Queue Each Play", K::kCheck, 6, 0, [this] { for (const std::string& song : songs) house().queue.Append(song, ""); Advance(1); return Heard(); }},
+    {kGeneral, "Play Options...", "Mute LINE IN on Play", K::kCheck, 31, 0, [this] { machine.mixer.calls.clear(); Choose(songs[0]); return Joined(machine.mixer.calls); }},
+    {kGeneral, "Play Options...", "Enable MIC on Videos", K::kCheck, 78, 0, [this] { machine.mixer.calls.clear(); Choose(clip); return Joined(machine.mixer.calls); }},
     {kGeneral, "Play Options...", "Allow duplicates in queue", K::kCheck, 23, 0, [this] { house().queue.Append(songs[0], ""); Click(Album().rows[0].title); return Look(form().play_options.play_now); }},
     {kGeneral, "Track List Options...", "Auto Back On Selection...", K::kCheck, 54, 0, [this] { Click(Row().add_to_queue); return Screens(); }},
     {kGeneral, "Track List Options...", "Enable Double Click...", K::kCheck, 62, 0, [this] { return TouchTwice(); }},
@@ -205,9 +181,9 @@ class SettingsTest : public OptionsTest {
     {kLooks, "Track Display Options", "Use Filename If No Tag Found", K::kCheck, 41, 0, [this] { return Album().rows[8].title.caption(); }},
     {kLooks, "Track Display Options", "Display Track Numbers", K::kCheck, 42, 0, [this] { return Album().rows[1].title.caption(); }},
     {kLooks, "Track Display Options", "Show Track First Compilations", K::kCheck, 57, 0, [this] { return Album().rows[1].title.caption(); }},
-    {kLooks, "Video\\Visualisations Options", "Use second monitor", K::kCheck, 34, 0, [this] { Play(clip); return std::to_string(machine.displays.second_shown); }},
+    {kLooks, "Video\\Visualisations Options", "Use second monitor", K::kCheck, 34, 0, [this] { Choose(clip); return std::to_string(machine.displays.second_shown); }},
     {kLooks, "Video\\Visualisations Options", "Second Monitor ID:", K::kList, 35, 0, [this] { now().use_second_monitor = true; jukebox->effects.displays.MoveSecondMonitor(); return std::to_string(machine.displays.second_area.left); }},
-    {kLooks, "Video\\Visualisations Options", "Use WINAMP visualizations for AUDIO", K::kCheck, 36, 0, [this] { machine.visualiser.calls.clear(); Play(songs[0]); return Joined(machine.visualiser.calls); }},
+    {kLooks, "Video\\Visualisations Options", "Use WINAMP visualizations for AUDIO", K::kCheck, 36, 0, [this] { machine.visualiser.calls.clear(); Choose(songs[0]); return Joined(machine.visualiser.calls); }},
     {kRandom, "Random Play Options", "Enable Random Play", K::kCheck, 19, 0, [this] { Advance(9); return machine.player.file; }},
     {kRandom, "Random Play Options", "Wait Time Between Tracks:", K::kNumber, 37, 0, [this] { return DeadAir(6.5); }},
     {kRandom, "Random Play Options", "Video", K::kCheck, 46, 1, [this] { return Picks(); }},
@@ -255,7 +231,7 @@ class SettingsTest : public OptionsTest {
     {kButtons, "Queue Display Options", "Set Queue Read Only", K::kCheck, 75, 0, [this] { house().queue_view.Update_queue2(); return Look(form().queue.commands[static_cast<size_t>(QueueCommand::kClear)]); }},
     {kButtons, "Keypad Display Options", "Show Entry Digits", K::kCheck, 76, 0, {}},
     {kButtons, "Keypad Display Options", "Show Album Digits", K::kCheck, 77, 0, [this] { return Cover().artist.caption(); }},
-    {kButtons, "Search Results Options", "Add All To Queue", K::kCheck, 79, 0, [this] { Find("1"); return Look(form().search_results.commands[static_cast<size_t>(ResultCommand::kAddAllToQueue)]); }},
+    {kButtons, "Search Results Options", "Add All To Queue", K::kCheck, 79, 0, [this] { Find(SearchMode::kTrack, "1"); return Look(form().search_results.commands[static_cast<size_t>(ResultCommand::kAddAllToQueue)]); }},
     {kAttract, "General Attract Mode Options", "Attract Mode Enabled", K::kCheck, 66, 0, [this] { now().now_playing_wait = "0"; return Idle(28); }},
     {kAttract, "General Attract Mode Options", "Attract Delay:", K::kNumber, 13, 1, [this] { now().now_playing_wait = "0"; now().attract_enabled = true; return Idle(14); }},
     {kAttract, "General Attract Mode Options", "Animation Amount:", K::kNumber, 13, 0, [this] { return Attraction(); }},
@@ -282,7 +258,7 @@ size_t LineOf(int number, size_t value) {
 TEST_F(SettingsTest, EachChangesItsOwnLineAndComesBackFromItAndDoesWhatItSays) {
   const std::set<std::string> at_once = {"Menu Button Options", "Misc Button Options",
                                          "Tab Display Options"};
-  for (const SettingCase& c : Cases()) {
+  for (const SettingCase& c : cases) {
     SCOPED_TRACE(std::string(c.frame) + " " + c.caption);
     // No history, no queue and no settings of the one before.
     for (const char* file : {"sonotik.ini", "queue.dat", "Random_history.dat"}) {

@@ -28,24 +28,6 @@ class SearchTest : public JukeboxTest {
     WriteTracks(titles);
   }
 
-  void Type(const std::string& text) {
-    SearchScreen& screen = form().search;
-    for (const char c : text) {
-      Click(c == ' '   ? screen.keys[26]
-            : c == '<' ? screen.keys[27]
-            : c <= '9' ? screen.digits[static_cast<size_t>(c - '0')]
-                       : screen.keys[static_cast<size_t>(c - 'A')]);
-    }
-  }
-  void Begin(SearchMode mode, const std::string& text) {
-    PressMenu(MenuButton::kSearch);
-    Click(form().search_choice.modes[static_cast<size_t>(mode)]);
-    Type(text);
-  }
-  void Find(SearchMode mode, const std::string& text) {
-    Begin(mode, text);
-    Click(form().search.search);
-  }
   SearchResultsScreen& Page() { return form().search_results; }
   lvButtons_H& Command(ResultCommand command) {
     return Page().commands[static_cast<size_t>(command)];

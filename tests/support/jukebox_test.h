@@ -133,6 +133,25 @@ class JukeboxTest : public testing::Test {
   }
 
   void PressMenu(MenuButton button) { Click(form().menu_buttons[static_cast<size_t>(button)]); }
+  // On the keyboard of the search; "<" takes a letter back.
+  void Type(const std::string& text) {
+    SearchScreen& screen = form().search;
+    for (const char c : text) {
+      Click(c == ' '   ? screen.keys[26]
+            : c == '<' ? screen.keys[27]
+            : c <= '9' ? screen.digits[static_cast<size_t>(c - '0')]
+                       : screen.keys[static_cast<size_t>(c - 'A')]);
+    }
+  }
+  void Begin(SearchMode mode, const std::string& text) {
+    PressMenu(MenuButton::kSearch);
+    Click(form().search_choice.modes[static_cast<size_t>(mode)]);
+    Type(text);
+  }
+  void Find(SearchMode mode, const std::string& text) {
+    Begin(mode, text);
+    Click(form().search.search);
+  }
   void Choose(const std::string& path, PlayWay way = PlayWay::kPlayNow) {
     house().selection.Choose(path, way);
   }
