@@ -274,7 +274,7 @@ TEST_F(SettingsTest, EachChangesItsOwnLineAndComesBackFromItAndDoesWhatItSays) {
     folder.Remove("queue.dat");
     Open();
     Save();
-    const std::string ini = folder.Read("sonotik.ini");
+    const std::vector<std::string> ini = Lines("sonotik.ini");
     OptionField* field = &Show(c.section, c.frame, c.caption, c.kind);
     const bool checked = field->checked();
     Change(*field);

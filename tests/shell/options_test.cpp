@@ -29,8 +29,8 @@ TEST_F(OptionsTest, ASkinIsPreviewedWhenItIsPickedAndWornFromItsApplyingOn) {
 TEST_F(OptionsTest, TheOtherFilesHoldTheirControlsToo) {
   Open();
   Save();
-  const std::string ini = folder.Read("sonotik.ini");
-  const std::string costs = folder.Read("cost.dat"), rights = folder.Read("permissions.ini");
+  const ItemList ini = Lines("sonotik.ini");
+  const ItemList costs = Lines("cost.dat"), rights = Lines("permissions.ini");
   Press(kGeneral, "Option Screen Settings", "Enable Coin Settings", K::kCheck);
   // Rows are ways and columns are kinds; the file goes by columns.
   Press(kCoins, "Video", "Play Next", K::kList);
@@ -52,7 +52,7 @@ TEST_F(OptionsTest, TheOtherFilesHoldTheirControlsToo) {
   Press(kSign, "BETABRITE Message Settings", "Enable LED Sign", K::kCheck);
   EXPECT_FALSE(house().playback.random_play_available);
   Save();
-  EXPECT_EQ(folder.Read("sonotik.ini"), ini);
+  EXPECT_EQ(Lines("sonotik.ini"), ini);
   EXPECT_EQ(ChangedLines("permissions.ini", rights), std::vector<size_t>{6});
   EXPECT_EQ(ChangedLines("cost.dat", costs), std::vector<size_t>{4});
   EXPECT_EQ(Lines("keyboard.dat")[16], " 81 \r");

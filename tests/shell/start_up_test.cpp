@@ -1,7 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <sstream>
-
 #include "support/jukebox_test.h"
 
 namespace sonotik {
@@ -11,8 +9,7 @@ class StartUpTest : public JukeboxTest {
  protected:
   std::vector<std::string> Milestones() const {
     std::vector<std::string> texts;
-    std::istringstream log(folder.Read("debug.log"));
-    for (std::string line; std::getline(log, line);) {
+    for (const std::string& line : folder.Lines("debug.log")) {
       EXPECT_EQ(line.substr(0, 20), "01/15/2024 12:00:00 ");
       texts.push_back(line.substr(20, line.size() - 21));
     }

@@ -5,8 +5,6 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <sstream>
-
 #include "config/settings_table.h"
 #include "support/jukebox_test.h"
 
@@ -87,20 +85,14 @@ class OptionsTest : public JukeboxTest {
     }
   }
 
-  std::vector<std::string> Lines(const std::string& file) const {
-    std::istringstream text(folder.Read(file));
-    std::vector<std::string> lines;
-    for (std::string line; std::getline(text, line);) lines.push_back(line);
-    return lines;
-  }
-  std::vector<size_t> ChangedLines(const std::string& file, const std::string& before) const {
-    std::istringstream text(before);
+  std::vector<std::string> Lines(const std::string& file) const { return folder.Lines(file); }
+  // Of a file that was like this before.
+  std::vector<size_t> ChangedLines(const std::string& file,
+                                   const std::vector<std::string>& before) const {
     std::vector<size_t> changed;
     const std::vector<std::string> lines = Lines(file);
     for (size_t i = 0; i < lines.size(); ++i) {
-      std::string old;
-      std::getline(text, old);
-      if (lines[i] != old) changed.push_back(i);
+      if (i >= before.size() || lines[i] != before[i]) changed.push_back(i);
     }
     return changed;
   }

@@ -9,6 +9,7 @@
 #include <iterator>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "files/paths.h"
 
@@ -40,6 +41,13 @@ class TempFolder {
   std::string Read(const std::string& name) const {
     std::ifstream file(native_ / name, std::ios::binary);
     return {std::istreambuf_iterator<char>(file), {}};
+  }
+  // Without their line feeds.
+  std::vector<std::string> Lines(const std::string& name) const {
+    std::ifstream file(native_ / name, std::ios::binary);
+    std::vector<std::string> lines;
+    for (std::string line; std::getline(file, line);) lines.push_back(line);
+    return lines;
   }
   bool Has(const std::string& name) const { return std::filesystem::exists(native_ / name); }
   void Remove(const std::string& name) const { std::filesystem::remove_all(native_ / name); }

@@ -121,7 +121,6 @@ class TestEvents : public EventLoop {
   int pumps = 0;
   int waited = 0;  // milliseconds
   bool left = false;
-  int exit_status = -1;
 
   void PumpEvents() override {
     ++pumps;
@@ -132,10 +131,7 @@ class TestEvents : public EventLoop {
     waited += milliseconds;
     PumpEvents();
   }
-  void Leave(int status) override {
-    left = true;
-    exit_status = status;
-  }
+  void Leave(int) override { left = true; }
 };
 
 class TestKeys : public KeyState {
