@@ -56,10 +56,10 @@ TEST_F(EveningTest, TheIndicatorMovesOnlyWhileSomethingSounds) {
   indicator.SetAction(GifAction::kPlay);
   Advance(1);
   EXPECT_FALSE(indicator.playing());
-  house().selection.Choose(tracks[0], PlayWay::kPlayNow);
+  Choose(tracks[0]);
   Advance(1);
   EXPECT_TRUE(indicator.playing());
-  Click(form().player_buttons[static_cast<size_t>(PlayerButton::kPause)]);
+  Press(PlayerButton::kPause);
   Advance(1);
   EXPECT_FALSE(indicator.playing());
 }
