@@ -21,13 +21,12 @@ class KeysTest : public JukeboxTest {
     folder.Write("keyboard.dat", map);
   }
   // Held for so many polls, and let go for one.
-  void Press(int code, int polls = 3) {
-    machine.keys.down.insert(code);
+  void PressSlot(int slot, int polls = 3) {
+    machine.keys.down.insert(40 + slot);
     Poll(polls);
-    machine.keys.down.erase(code);
+    machine.keys.down.erase(40 + slot);
     Poll();
   }
-  void PressSlot(int slot, int polls = 3) { Press(40 + slot, polls); }
 };
 
 TEST_F(KeysTest, OnePressIsOneActionHoweverLongItIsHeld) {

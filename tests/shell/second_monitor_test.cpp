@@ -212,6 +212,7 @@ TEST_F(SecondMonitorTest, StartsInFullScreenWithoutAFrameWhateverTheSkinTells) {
   };
   EXPECT_FALSE(flag(StyleFlag::Titlebar) || flag(StyleFlag::Sizable));
   EXPECT_TRUE(flag(StyleFlag::ToolWindow)) << "no matter of full screen";
+  EXPECT_TRUE(house().form2.style[static_cast<size_t>(StyleFlag::ToolWindow)].value);
   EXPECT_TRUE(flag(StyleFlag::TopMost));
   EXPECT_THAT(machine.displays.calls, ElementsAre("SetTaskbarVisible 0 0"));
 }
