@@ -16,13 +16,10 @@ using testing::HasSubstr;
 
 class LayoutReaderTest : public testing::Test {
  protected:
-  LayoutReaderTest() : targets(form), reader(targets, folder.path()) {}
-
-  void ReadText(const LayoutFile& file, const std::string& text) { reader.ReadText(file, text); }
   // What the failure says; empty if there was none.
   std::string Failure(const LayoutFile& file, const std::string& text) {
     try {
-      ReadText(file, text);
+      reader.ReadText(file, text);
     } catch (const RuntimeFailure& failure) {
       return failure.what();
     }
@@ -31,8 +28,10 @@ class LayoutReaderTest : public testing::Test {
 
   TempFolder folder;
   Form1 form;
-  LayoutTargets targets;
-  LayoutReader reader;
+  LayoutTargets targets{form};
+  LayoutReader reader{targets, folder.path()};
+  const LayoutFile& spin = *FindLayoutFile("spin.ini");
+  lvButtons_H& spin_tab = form.album.tabs[5];
 };
 
 std::vector<const LayoutFile*> AllFiles() {
@@ -79,7 +78,7 @@ double Held(const Control& control, FieldKind kind) {
 TEST_F(LayoutReaderTest, HandsEachValueToItsControlAndTheLaterFileWins) {
   std::map<std::pair<Control*, FieldKind>, std::string> last;
   for (const LayoutFile* file : AllFiles()) {
-    ReadText(*file, LayoutText(*file));
+    reader.ReadText(*file, LayoutText(*file));
     for (const LayoutField& field : WrittenFields(*file)) {
       const auto controls = targets.At(field.block->target, field.index);
       const BlockKind block = field.block->kind;
@@ -113,8 +112,8 @@ TEST_F(LayoutReaderTest, HandsEachValueToItsControlAndTheLaterFileWins) {
 
 // Some by hand, where the tables and the targets could be wrong together.
 TEST_F(LayoutReaderTest, PutsTheOddOnesWhereTheyBelong) {
-  for (const LayoutFile* file : AllFiles()) ReadText(*file, LayoutText(*file));
-  EXPECT_EQ(form.album.tabs[5].caption(), "Caption 2");  // spin.ini, over nav.ini
+  for (const LayoutFile* file : AllFiles()) reader.ReadText(*file, LayoutText(*file));
+  EXPECT_EQ(spin_tab.caption(), "Caption 2");  // spin.ini, over nav.ini
   EXPECT_EQ(form.album.tabs[4].caption(), "Caption 118");
   EXPECT_EQ(form.album.tabs[3].caption(), "Most Played");
   EXPECT_EQ(form.album.tabs[0].place().left, 89.5F);  // nav.ini, whatever tab.ini says of its look
@@ -129,6 +128,9 @@ TEST_F(LayoutReaderTest, PutsTheOddOnesWhereTheyBelong) {
   EXPECT_EQ(form.queue.rows[1].number.place().top, 167.5F);
   EXPECT_EQ(form.search.suggestions[2].place().top, 442.5F);
   EXPECT_EQ(form.decades.month_buttons[11].shape(), 157 % 7);
+  EXPECT_EQ(form.decades.year_buttons[56].shape(), 744 % 7);
+  EXPECT_EQ(form.menu_buttons[8].caption(), "Caption 109");
+  EXPECT_EQ(form.clock.font().points, 132 % 90 + 1);
 }
 
 TEST_F(LayoutReaderTest, DoesNothingWithoutAFileAndFailsAtWhatIsMissingInOne) {
@@ -217,56 +219,51 @@ TEST_F(LayoutReaderTest, ReadsTenMegabytesOfAnythingInNoTime) {
   for (const LayoutFile* file : {&SkinFile(), FindLayoutFile("main.ini")}) {
     EXPECT_EQ(Failure(*file, LayoutText(*file) + many), "");
   }
-  const LayoutFile& spin = *FindLayoutFile("spin.ini");
   for (const std::string& bytes : {many, std::string(10 << 20, ','), std::string(10 << 20, '"'),
                                    std::string(10 << 20, '\0'), std::string(10 << 20, '\n')}) {
     Failure(spin, bytes);
     for (const int number : {2, 6, 13}) {
       Failure(spin, LayoutText(spin, PlainBut(number, bytes)));
-      EXPECT_LE(form.album.tabs[5].caption().size(), 1024u);
-      EXPECT_LE(form.album.tabs[5].font().family.size(), 1024u);
+      EXPECT_LE(spin_tab.caption().size(), 1024u);
+      EXPECT_LE(spin_tab.font().family.size(), 1024u);
     }
   }
 }
 
 // A comma inside a value makes two fields of it, and the rest slips; quotes keep it together.
 TEST_F(LayoutReaderTest, SlipsAtACommaUnlessItIsQuoted) {
-  const LayoutFile& spin = *FindLayoutFile("spin.ini");
   EXPECT_THAT(Failure(spin, LayoutText(spin, PlainBut(2, "Spin, on this"))), HasSubstr("field 3"));
   EXPECT_EQ(Failure(spin, LayoutText(spin, PlainBut(2, "\"Spin, on this\" and more"))), "");
-  EXPECT_EQ(form.album.tabs[5].caption(), "Spin, on this");
+  EXPECT_EQ(spin_tab.caption(), "Spin, on this");
 }
 
 TEST_F(LayoutReaderTest, EmptiesTheButtonOfAMissingPictureAndNothingElse) {
   folder.Write("Images/There.bmp", "x");
-  const LayoutFile& spin = *FindLayoutFile("spin.ini");
-  lvButtons_H& tab = form.album.tabs[5];
-  for (const char* shape : {"7", "2"}) {
-    const auto with = [&](const std::string& picture) {
-      return LayoutText(spin, [&](const LayoutField& field) {
-        return field.kind == FieldKind::kPicture ? picture
-               : field.kind == FieldKind::kShape ? shape
-                                                 : PlainValue(field);
-      });
+  // A shape that is cut from a picture needs one.
+  for (const auto& [shape, left] : {std::pair{7, 0}, {2, 2}}) {
+    const auto put_on = [&](const std::string& picture) {
+      reader.ReadText(spin, LayoutText(spin, [&](const LayoutField& field) {
+                        return field.kind == FieldKind::kPicture ? picture
+                               : field.kind == FieldKind::kShape ? std::to_string(shape)
+                                                                 : PlainValue(field);
+                      }));
     };
-    ReadText(spin, with("images\\there.bmp"));
-    EXPECT_EQ(tab.picture(), folder.path() + "\\images\\there.bmp");
-    EXPECT_EQ(std::to_string(tab.shape()), shape);
-    ReadText(spin, with("images\\gone.bmp"));
-    EXPECT_EQ(tab.picture(), "");
-    // A shape that is cut from a picture needs one.
-    EXPECT_EQ(tab.shape(), shape[0] == '7' ? 0 : 2);
+    put_on("images\\there.bmp");
+    EXPECT_EQ(spin_tab.picture(), folder.path() + "\\images\\there.bmp");
+    EXPECT_EQ(spin_tab.shape(), shape);
+    put_on("images\\gone.bmp");
+    EXPECT_EQ(spin_tab.picture(), "");
+    EXPECT_EQ(spin_tab.shape(), left);
   }
   const LayoutFile& genre = *FindLayoutFile("genre.ini");
-  ReadText(genre, LayoutText(genre, PlainBut(1, "Images\\There.bmp")));
-  ReadText(genre, LayoutText(genre, PlainBut(1, "")));
+  reader.ReadText(genre, LayoutText(genre, PlainBut(1, "Images\\There.bmp")));
+  reader.ReadText(genre, LayoutText(genre, PlainBut(1, "")));
   EXPECT_EQ(form.panel(screen::kGenre).picture(), folder.path() + "\\Images\\There.bmp");
 }
 
 TEST_F(LayoutReaderTest, KeepsTheSizeOfAFontThatHasNoneAndADesktopColourAsItsNumber) {
-  const LayoutFile& spin = *FindLayoutFile("spin.ini");
-  ReadText(spin, LayoutText(spin, PlainBut(8, "-2147483633")));
-  EXPECT_EQ(form.album.tabs[5].cBack(), kButtonFace);
+  reader.ReadText(spin, LayoutText(spin, PlainBut(8, "-2147483633")));
+  EXPECT_EQ(spin_tab.cBack(), kButtonFace);
   const struct {
     const char* value;
     const char* family;
@@ -279,9 +276,9 @@ TEST_F(LayoutReaderTest, KeepsTheSizeOfAFontThatHasNoneAndADesktopColourAsItsNum
                 {"Wide 1e9", "Wide", 1000},
                 {"Less -4", "Less", 1}};
   for (const auto& font : kFonts) {
-    ReadText(spin, LayoutText(spin, PlainBut(6, font.value)));
-    EXPECT_EQ(form.album.tabs[5].font().family, font.family);
-    EXPECT_EQ(form.album.tabs[5].font().points, font.points);
+    reader.ReadText(spin, LayoutText(spin, PlainBut(6, font.value)));
+    EXPECT_EQ(spin_tab.font().family, font.family);
+    EXPECT_EQ(spin_tab.font().points, font.points);
   }
 }
 

@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "fuzz/gif_bytes.h"
 #include "support/jukebox_test.h"
 #include "support/skin_files.h"
 
@@ -11,6 +12,7 @@ namespace {
 
 using testing::ElementsAre;
 using testing::HasSubstr;
+using testing::ThrowsMessage;
 
 class SkinLoaderTest : public JukeboxTest {
  protected:
@@ -31,13 +33,8 @@ class SkinLoaderTest : public JukeboxTest {
   std::string PathOf(const std::string& name) const {
     return folder.path() + "\\skins\\Plain\\" + name;
   }
-  void ExpectFailure(const std::string& words) {
-    try {
-      Skins().ApplySkin();
-      FAIL() << "no failure";
-    } catch (const RuntimeFailure& failure) {
-      EXPECT_THAT(failure.what(), HasSubstr(words));
-    }
+  auto ApplyingIt() {
+    return [this] { Skins().ApplySkin(); };
   }
 };
 
@@ -53,7 +50,7 @@ TEST_F(SkinLoaderTest, EndsAtADamagedFileAndKeepsWhatWasPutOn) {
   WriteLayout("search.ini");
   Write("tracklist.ini", "a\nCaption\nword\n");
   WriteLayout("top20.ini");
-  ExpectFailure("tracklist.ini: field 3");
+  EXPECT_THAT(ApplyingIt(), ThrowsMessage<RuntimeFailure>(HasSubstr("tracklist.ini: field 3")));
   EXPECT_EQ(form().search.keys[0].caption(), "Caption 2");
   EXPECT_EQ(form().track_list.up.caption(), "Caption");
   EXPECT_EQ(form().top20.up.caption(), "Up");
@@ -99,10 +96,7 @@ TEST_F(SkinLoaderTest, TakesPicturesThatAreThereAndLeavesTheOthers) {
 
 TEST_F(SkinLoaderTest, PlaysTheIndicatorAndEmptiesItForWhatIsNoAnimation) {
   Skins();
-  // One pixel of two frames.
-  const std::string frame("\x2C\0\0\0\0\1\0\1\0\0\2\2\x44\1\0", 15);
-  Write("on.gif",
-        std::string("GIF89a\1\0\1\0\x80\0\0\0\0\0\xFF\xFF\xFF", 19) + frame + frame + ";");
+  Write("on.gif", gif::Head() + gif::Dot() + gif::Dot());
   WriteSkinFile(36, "on.gif");
   Skins().ApplySkin();
   EXPECT_EQ(form().now_playing_indicator.frame_count(), 2);
@@ -176,7 +170,7 @@ TEST_F(SkinLoaderTest, TakesTheHeadOfTheMenuForTheGenres) {
     return field.number == 1 ? "0" : field.number <= 3 ? "ignored" : PlainValue(field);
   });
   // Without its two fields of size the file is read on at once: a caption is due there.
-  ExpectFailure("menu.ini");
+  EXPECT_THAT(ApplyingIt(), ThrowsMessage<RuntimeFailure>(HasSubstr("menu.ini")));
   EXPECT_EQ(form().menu.place(), design);
   WriteLayout("menu.ini");
   Skins().ApplySkin();
@@ -325,29 +319,23 @@ TEST_F(SkinLoaderTest, KeepsTheSelectedCoverLayoutUnlessTheFolderIsAnother) {
 TEST_F(SkinLoaderTest, TakesNoHalfCoverLayout) {
   Skins();
   CoverLayout layout;
-  const auto fails = [&](const std::string& text) {
+  const auto load = [&](const std::string& text) {
     folder.Write("a.cov", text);
-    try {
-      LoadCoverLayout(folder.path() + "\\a.cov", layout, form().album);
-    } catch (const RuntimeFailure&) {
-      return true;
-    }
-    return false;
+    LoadCoverLayout(folder.path() + "\\a.cov", layout, form().album);
+    return layout.covers_per_page;
   };
   const std::string whole = CoverLayoutText(2);
+  std::vector<std::string> broken = {"", ReplaceAll(whole, "\n11\n", "\nword\n"),
+                                     "label\n99999\n0\n0\n"};
   for (size_t cut = whole.find('\n'); cut + 1 < whole.size(); cut = whole.find('\n', cut + 1)) {
-    EXPECT_TRUE(fails(whole.substr(0, cut + 1))) << cut;
+    broken.push_back(whole.substr(0, cut + 1));
   }
-  EXPECT_TRUE(fails(""));
-  EXPECT_TRUE(fails(ReplaceAll(whole, "\n11\n", "\nword\n")));
-  EXPECT_TRUE(fails("label\n99999\n0\n0\n"));
+  for (const std::string& text : broken) EXPECT_THROW(load(text), RuntimeFailure) << text;
   EXPECT_EQ(layout.covers_per_page, 12);
-  EXPECT_FALSE(fails(ReplaceAll(whole, "\n", "\r")));
-  EXPECT_FALSE(fails(ReplaceAll(whole, "\n11\n", "\n-1e300\n") + std::string(10 << 20, 'x')));
-  EXPECT_EQ(layout.covers_per_page, 2);
+  EXPECT_EQ(load(ReplaceAll(CoverLayoutText(1), "label\n1\n", "label\n-3\n")), 1);
+  EXPECT_EQ(load(ReplaceAll(whole, "\n", "\r")), 2);
+  EXPECT_EQ(load(ReplaceAll(whole, "\n11\n", "\n-1e300\n") + std::string(10 << 20, 'x')), 2);
   EXPECT_FALSE(form().album.covers[2].new_badge.visible());
-  EXPECT_FALSE(fails(ReplaceAll(CoverLayoutText(1), "label\n1\n", "label\n-3\n")));
-  EXPECT_EQ(layout.covers_per_page, 1);
 }
 
 }  // namespace
