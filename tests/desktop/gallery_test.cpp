@@ -6,50 +6,39 @@
 #include <QImage>
 #include <QPainter>
 #include <memory>
+#include <tuple>
 #include <vector>
 
 #include "desktop/painter_canvas.h"
 #include "support/temp_folder.h"
 #include "widgets/Slider.h"
-#include "widgets/controls.h"
 #include "widgets/lvButtons_H.h"
 
 namespace sonotik {
 namespace {
 
-constexpr Color kNight = Rgb(16, 18, 32);
+constexpr int kWidth = 1180, kHeight = 690;
+
+// Remembers where the last text stood.
+class TextPlace : public PainterCanvas {
+ public:
+  using PainterCanvas::PainterCanvas;
+  void DrawText(const std::string&, const Rect& rect, const TextStyle&) override { text = rect; }
+  Rect text;
+};
 
 class Gallery : public testing::Test {
  protected:
   Gallery() {
-    form.SetBackColor(kNight);
+    form.SetPlace({0, 0, kWidth, kHeight});
+    form.SetBackColor(Rgb(16, 18, 32));
     form.pictures = &pictures;
-    QImage note(64, 64, QImage::Format_ARGB32);
-    note.fill(Qt::transparent);
-    QPainter painter(&note);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(QColor(255, 184, 77));
-    painter.drawEllipse(6, 38, 22, 18);
-    painter.drawRect(24, 8, 5, 40);
-    painter.drawPolygon(QPolygon({{24, 8}, {52, 18}, {52, 30}, {24, 18}}));
-    painter.end();
-    Save(note, "note.png");
     QImage star(160, 120, QImage::Format_RGB32);
     star.fill(Qt::magenta);
     QPainter art(&star);
-    QLinearGradient gold(0, 0, 0, 120);
-    gold.setColorAt(0, QColor(255, 226, 150));
-    gold.setColorAt(1, QColor(190, 110, 20));
     art.setPen(Qt::NoPen);
-    art.setBrush(gold);
-    QPolygonF points;
-    for (int i = 0; i < 10; ++i) {
-      const double turn = i * 3.14159265 / 5;
-      const double r = i % 2 == 0 ? 1 : 0.55;
-      points << QPointF(80 + 76 * r * std::sin(turn), 62 - 58 * r * std::cos(turn));
-    }
-    art.drawPolygon(points);
+    art.setBrush(QColor(255, 200, 90));
+    art.drawPolygon(QPolygon({{80, 4}, {110, 42}, {156, 60}, {80, 116}, {4, 60}, {50, 42}}));
     art.end();
     Save(star, "star.png");
   }
@@ -59,37 +48,24 @@ class Gallery : public testing::Test {
   }
   std::string Picture(const char* name) const { return folder.path() + "\\" + name; }
 
-  lvButtons_H& Button(const Rect& place, const std::string& caption, Color back) {
+  // In rows of nine.
+  lvButtons_H& Button(const std::string& caption, Color back) {
+    const auto column = static_cast<float>(buttons.size() % 9);
+    const auto row = static_cast<float>(buttons.size() / 9);
     buttons.push_back(std::make_unique<lvButtons_H>());
     lvButtons_H& button = *buttons.back();
-    form.Add(button, place);
+    form.Add(button, {10 + 130 * column, 10 + 84 * row, 118, 68});
     button.SetCaption(caption);
     button.SetForeColor(kWhite);
     button.SetBackColor(back);
     button.SetFocusRect(false);
     return button;
   }
-  void Head(const Rect& place, const std::string& text) {
-    heads.push_back(std::make_unique<Label>());
-    form.Add(*heads.back(), place);
-    heads.back()->SetCaption(text);
-    heads.back()->SetForeColor(Rgb(168, 174, 200));
-  }
-  // Puts the button under the mouse, under the finger, or both off.
-  void Under(lvButtons_H& button, bool over, bool held) {
-    const Rect p = button.place();
-    if (over) button.MouseEnter();
-    if (held) button.MouseDown({{p.width / 2, p.height / 2}});
-  }
-  QImage Paint(float width, float height, const char* name) {
-    form.SetPlace({0, 0, width, height});
-    constexpr int kScale = 2;
-    QImage image(static_cast<int>(width) * kScale, static_cast<int>(height) * kScale,
-                 QImage::Format_RGB32);
-    image.fill(Qt::black);
+  QImage Paint(const char* name) {
+    QImage image(2 * kWidth, 2 * kHeight, QImage::Format_RGB32);
     QPainter painter(&image);
-    painter.scale(kScale, kScale);
-    PainterCanvas canvas(painter, pictures, form.place(), kScale);
+    painter.scale(2, 2);
+    PainterCanvas canvas(painter, pictures, form.place(), 2);
     form.Paint(canvas);
     painter.end();
     const QString file = QCoreApplication::applicationDirPath() + "/gallery-" + name + ".png";
@@ -118,119 +94,96 @@ class Gallery : public testing::Test {
   PictureCache pictures;
   Form form;
   std::vector<std::unique_ptr<lvButtons_H>> buttons;
-  std::vector<std::unique_ptr<Label>> heads;
 };
 
+// A row a style: idle, under the mouse, held, checked, disabled, and the four gradients.
 TEST_F(Gallery, EveryStyleShowsEveryStateByItself) {
-  static constexpr const char* kStyles[] = {"raised", "flat",  "etched", "soft",
-                                            "glass",  "bezel", "sunken", "neon"};
-  static constexpr const char* kStates[] = {"Idle",     "Hover", "Held",    "Checked",
-                                            "Disabled", "Focus", "Gradient"};
   for (int style = 0; style < 8; ++style) {
-    const float y = 16 + 72 * static_cast<float>(style);
-    Head({16, y, 80, 56}, kStyles[style]);
-    for (int state = 0; state < 7; ++state) {
-      lvButtons_H& button =
-          Button({100 + 150 * static_cast<float>(state), y, 138, 56}, "Add To Queue",
-                 style == back_style::kNeon ? Rgb(32, 160, 255) : Rgb(52, 60, 96));
+    for (int state = 0; state < 9; ++state) {
+      const bool neon = style == back_style::kNeon;
+      lvButtons_H& button = Button("Add To Queue", neon ? Rgb(32, 160, 255) : Rgb(52, 60, 96));
       button.SetBackStyle(style);
       if (state == 1) button.SetHoverColors(Rgb(28, 20, 8), Rgb(255, 184, 77));
+      if (state == 1) button.MouseEnter();
+      if (state == 2) button.MouseDown({{59, 34}});
       if (state == 3) button.SetMode(kCheckMode);
       button.SetValue(state == 3);
       button.SetEnabled(state != 4);
-      if (state == 6) button.SetcGradient(Rgb(150, 60, 110));
-      if (state == 6) button.SetGradient(1);
-      Under(button, state == 1, state == 2);
-      if (style == 0) Head({100 + 150 * static_cast<float>(state), 0, 138, 16}, kStates[state]);
+      button.SetcGradient(Rgb(150, 60, 110));
+      button.SetGradient(std::max(0, state - 4));
     }
   }
-  form.SetPlace({0, 0, 1166, 600});
-  const QImage image = Paint(1166, 600, "styles");
+  const QImage image = Paint("styles");
   for (size_t style = 0; style < 8; ++style) {
-    lvButtons_H& focused = *buttons[style * 7 + 5];
+    ExpectAllDiffer(image, style * 9, 9);
+    lvButtons_H& focused = *buttons[style * 9];
     focused.SetFocusRect(true);
     form.SetFocus(&focused);
-    const QImage marked = Paint(1166, 600, "styles");
-    EXPECT_NE(Part(image, focused), Part(marked, focused));
-    EXPECT_EQ(Part(image, *buttons[style * 7]), Part(image, focused));
-    ExpectAllDiffer(image, style * 7, 5);
+    EXPECT_NE(Part(image, focused), Part(Paint("styles"), focused));
   }
 }
 
-TEST_F(Gallery, EveryShapeKeepsItsCaptionInsideInEveryStyle) {
+TEST_F(Gallery, EveryShapeShowsTheWallWhereNoPressFindsItAndMovesItsTextWhenHeld) {
+  QImage paper(9, 9, QImage::Format_RGB32);
+  QPainter painter(&paper);
+  TextPlace texts(painter, pictures, form.place(), 1);
   for (int style = 0; style < 8; ++style) {
     for (int shape = 0; shape < 9; ++shape) {
-      lvButtons_H& button = Button(
-          {16 + 130 * static_cast<float>(shape), 16 + 84 * static_cast<float>(style), 118, 68},
-          "Play||Now", Rgb(150, 44, 60));
+      lvButtons_H& button = Button("Play||Now", Rgb(150, 44, 60));
       button.SetImage(shape > 6 ? Picture("star.png") : "");
       button.SetBackStyle(style);
       button.SetShape(shape);
-      EXPECT_EQ(button.shape(), shape);
+      button.Paint(texts);
+      const Rect idle = texts.text;
+      button.MouseDown({{59, 34}});
+      button.Paint(texts);
+      // From the ellipse on only down.
+      EXPECT_EQ(texts.text, idle.MovedBy(shape < 4 ? 1 : 0, 1)) << style << " " << shape;
+      button.MouseUp({{59, 34}}, true);
       button.SetCapStyle(style % 3);
     }
   }
-  form.SetPlace({0, 0, 1190, 690});
-  const QImage image = Paint(1190, 690, "shapes");
+  const QImage image = Paint("shapes");
   for (size_t style = 0; style < 8; ++style) ExpectAllDiffer(image, style * 9, 8);
   for (size_t i = 0; i < buttons.size(); ++i) {
     const QImage part = Part(image, *buttons[i]);
-    // Where no press finds the button, the wall shows.
     for (const Point at : {Point{0.25F, 0.25F}, {117.75F, 0.25F}, {0.25F, 67.75F}}) {
-      const QRgb pixel = part.pixel(static_cast<int>(at.x * 2), static_cast<int>(at.y * 2));
       if (buttons[i]->Covers(at)) continue;
+      const QRgb pixel = part.pixel(static_cast<int>(at.x * 2), static_cast<int>(at.y * 2));
       EXPECT_LT(qRed(pixel), 60) << i << " at " << at.x << "," << at.y;
     }
   }
 }
 
 TEST_F(Gallery, PicturesStandWhereTheyAreAlignedAndPressesChangeCutOnes) {
-  for (int align = 0; align < 6; ++align) {
-    for (int size = 0; size < 5; ++size) {
-      lvButtons_H& button = Button(
-          {16 + 172 * static_cast<float>(size), 16 + 92 * static_cast<float>(align), 160, 80},
-          "Rock && Roll", Rgb(52, 60, 96));
-      button.SetBackStyle(back_style::kGlass);
-      button.SetImage(Picture("note.png"));
-      button.SetImgAlign(align);
-      button.SetImgSize(size);
-    }
+  for (int look = 0; look < 30; ++look) {
+    lvButtons_H& button = Button("Rock && Roll", Rgb(52, 60, 96));
+    button.SetBackStyle(back_style::kGlass);
+    button.SetImage(Picture("star.png"));
+    button.SetImgAlign(look / 5);
+    button.SetImgSize(look % 5);
   }
   for (int effect = 0; effect < 9; ++effect) {
-    lvButtons_H& button = Button({890 + 100 * static_cast<float>(effect % 3),
-                                  16 + 92 * static_cast<float>(effect / 3), 96, 80},
-                                 "", Rgb(0, 0, 0));
+    lvButtons_H& button = Button("", Rgb(0, 0, 0));
     button.SetImage(Picture("star.png"));
     button.SetShape(8);
     button.SetCustomClick(effect);
-    Under(button, false, true);
+    button.MouseDown({{59, 34}});
   }
-  const Rect last{890, 300, 290, 80};
-  for (int gradient = 1; gradient <= 4; ++gradient) {
-    lvButtons_H& button = Button(last.MovedBy(0, 60.0F * static_cast<float>(gradient - 1)),
-                                 "A long caption that takes two lines", Rgb(120, 40, 140));
-    button.SetPlace({last.left, last.top + 62.0F * static_cast<float>(gradient - 1), 290, 54});
-    button.SetcGradient(Rgb(20, 120, 160));
-    button.SetGradient(gradient);
-    button.SetCapStyle(gradient % 3);
-    button.SetBackStyle(back_style::kSoft);
-  }
-  form.SetPlace({0, 0, 1200, 580});
-  const QImage image = Paint(1200, 580, "pictures");
+  const QImage image = Paint("pictures");
   ExpectAllDiffer(image, 0, 30);
   ExpectAllDiffer(image, 30, 9);
-  ExpectAllDiffer(image, 39, 4);
 }
 
 TEST_F(Gallery, SlidersShowHowFarTheyAreLyingAndStanding) {
-  QImage track(200, 30, QImage::Format_RGB32), progress(200, 30, QImage::Format_RGB32);
-  track.fill(QColor(50, 50, 60));
-  progress.fill(QColor(255, 184, 77));
-  QImage knob(20, 30, QImage::Format_RGB32);
-  knob.fill(Qt::white);
-  Save(track, "track.png");
-  Save(progress, "progress.png");
-  Save(knob, "knob.png");
+  const QColor amber(255, 184, 77), grey(50, 50, 60), white(Qt::white);
+  for (const auto& [name, width, color] : {std::tuple{"track.png", 200, grey},
+                                           {"progress.png", 200, amber},
+                                           {"knob.png", 20, white}}) {
+    QImage picture(width, 30, QImage::Format_RGB32);
+    picture.fill(color);
+    Save(picture, name);
+  }
   Slider plain, standing, skinned;
   form.Add(plain, {20, 20, 200, 40});
   form.Add(standing, {260, 20, 40, 160});
@@ -244,18 +197,16 @@ TEST_F(Gallery, SlidersShowHowFarTheyAreLyingAndStanding) {
     slider->SetColors(Rgb(50, 50, 60), Rgb(255, 184, 77), kWhite);
     slider->SetValue(70);
   }
-  const QImage image = Paint(320, 200, "sliders");
-  const auto color = [&](float x, float y) {
-    return image.pixelColor(static_cast<int>(x * 2), static_cast<int>(y * 2));
-  };
-  const QColor amber(255, 184, 77), grey(50, 50, 60);
-  EXPECT_EQ(color(100, 40), amber);
-  EXPECT_EQ(color(200, 40), grey);
-  EXPECT_EQ(color(280, 170), amber);
-  EXPECT_EQ(color(280, 40), grey);
-  EXPECT_EQ(color(60, 115), amber);
-  EXPECT_EQ(color(20 + 126 + 10, 115), QColor(Qt::white));
-  EXPECT_EQ(color(200, 115), grey);
+  const QImage image = Paint("sliders");
+  for (const auto& [x, y, color] : {std::tuple{100, 40, amber},
+                                    {200, 40, grey},
+                                    {280, 170, amber},
+                                    {280, 40, grey},
+                                    {60, 115, amber},
+                                    {20 + 126 + 10, 115, white},
+                                    {200, 115, grey}}) {
+    EXPECT_EQ(image.pixelColor(2 * x, 2 * y), color) << x << ", " << y;
+  }
 }
 
 }  // namespace

@@ -5,10 +5,11 @@
 #include <QDBusError>
 #include <QDBusMessage>
 #include <QDBusVirtualObject>
-#include <QEventLoop>
 #include <QProcess>
 #include <QThread>
 #include <memory>
+
+#include "desktop/event_loop.h"
 
 namespace sonotik {
 namespace {
@@ -67,10 +68,8 @@ TEST(LogindSession, AsksTheLoginManagerWithoutAPassword) {
       manager.refuse = true;
       session.End(SessionEnd::kReboot);
     }));
-    QEventLoop loop;
-    QObject::connect(asker.get(), &QThread::finished, &loop, &QEventLoop::quit);
     asker->start();
-    loop.exec();
+    EXPECT_TRUE(Becomes([&] { return asker->isFinished(); }));
     asker->wait();
   }
   const QString manager_name = "org.freedesktop.login1.Manager.";

@@ -2,61 +2,22 @@
 
 #include <gtest/gtest.h>
 
-#include <chrono>
-#include <clocale>
+#include <QCoreApplication>
 #include <cmath>
-#include <condition_variable>
-#include <cstdlib>
-#include <filesystem>
-#include <fstream>
-#include <functional>
 #include <map>
-#include <memory>
-#include <mutex>
-#include <string>
-#include <utility>
-#include <vector>
+
+#include "desktop/event_loop.h"
+#include "support/gif_files.h"
 
 namespace sonotik {
 namespace {
 namespace fs = std::filesystem;
 
-// The interface thread's queue: closures come from any thread and run while the test waits.
-class Queue {
- public:
-  void Post(std::function<void()> closure) {
-    const std::lock_guard lock(mutex_);
-    closures_.push_back(std::move(closure));
-    posted_.notify_one();
-  }
-  // Runs what has come, after a short wait for it.
-  void Drain() {
-    std::vector<std::function<void()>> closures;
-    std::unique_lock lock(mutex_);
-    posted_.wait_for(lock, std::chrono::milliseconds(2), [this] { return !closures_.empty(); });
-    closures.swap(closures_);
-    lock.unlock();
-    for (const auto& closure : closures) closure();
-  }
-  bool Until(const std::function<bool()>& condition) {
-    const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(10);
-    while (!condition() && std::chrono::steady_clock::now() < deadline) Drain();
-    return condition();
-  }
-
- private:
-  std::mutex mutex_;
-  std::condition_variable posted_;
-  std::vector<std::function<void()>> closures_;
-};
-
 class MpvPlayerTest : public testing::Test {
  protected:
   static void SetUpTestSuite() {
-    std::string name = (fs::temp_directory_path() / "mpv_player_XXXXXX").string();
-    folder_ = mkdtemp(name.data());
-    start_ = fs::current_path();
-    fs::current_path(folder_);
+    folder_ = std::make_unique<TempFolder>();
+    fs::current_path(folder_->native());
     const std::string sound = " -f lavfi -i sine=440:d=1 ";
     Make(sound + "tone.wav");
     Make(sound + "-b:a 128k tone.mp3");
@@ -66,25 +27,17 @@ class MpvPlayerTest : public testing::Test {
     Make(
         "-i tone.mp3 -i clip.mpg -map 0:a -map 1:v -c:a copy -c:v png -frames:v 1 "
         "-disposition:v attached_pic cover.mp3");
-    const std::string tone = Read("tone.wav");
-    Write("cut.wav", tone.substr(0, tone.size() / 2));
-    for (const char* copy : {"-vo.wav", "a:b,c;%41&.wav", "caf\xe9.wav"}) Write(copy, tone);
+    const std::string tone = folder_->Read("tone.wav");
+    folder_->Write("cut.wav", tone.substr(0, tone.size() / 2));
+    for (const char* copy : {"-vo.wav", "a:b,c;%41&.wav", "caf\xe9.wav"})
+      folder_->Write(copy, tone);
   }
   static void TearDownTestSuite() {
-    fs::current_path(start_);
-    fs::remove_all(folder_);
+    fs::current_path("/");
+    folder_.reset();
   }
-  void SetUp() override { setlocale(LC_NUMERIC, "C"); }
-
   static void Make(const std::string& arguments) {
-    ASSERT_EQ(std::system(("ffmpeg -v error -nostdin " + arguments).c_str()), 0) << arguments;
-  }
-  static void Write(const std::string& name, const std::string& bytes) {
-    std::ofstream(name, std::ios::binary) << bytes;
-  }
-  static std::string Read(const std::string& name) {
-    std::ifstream file(name, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
+    RunIn(*folder_, "ffmpeg -v error -nostdin " + arguments);
   }
   // Two seconds of CD+G, 300 packets of 24 bytes each: a screen of one colour from `first` on and
   // nothing after it.
@@ -99,7 +52,7 @@ class MpvPlayerTest : public testing::Test {
 
   bool AtEnd() { return player_->Position() == player_->Length(); }
   bool PlayToEnd() {
-    return player_->Run() && queue_.Until([this] { return AtEnd(); });
+    return player_->Run() && Becomes([this] { return AtEnd(); });
   }
   // While another player plays on.
   bool StandsStill() {
@@ -107,7 +60,7 @@ class MpvPlayerTest : public testing::Test {
     other.RenderFile("tone.wav");
     other.Run();
     const double place = *player_->Position();
-    return queue_.Until([&] { return *other.Position() > 0.2; }) &&
+    return Becomes([&] { return *other.Position() > 0.2; }) &&
            std::abs(*player_->Position() - place) < 0.1;
   }
   // Blue, green and red of the picture shown.
@@ -117,16 +70,17 @@ class MpvPlayerTest : public testing::Test {
     return {at[0], at[1], at[2]};
   }
   bool ShowsPicture(int width, int height) {
-    return queue_.Until([&, this] {
+    return Becomes([&, this] {
       const PixelSurface& pixels = player_->pixels();
       return pixels.width == width && pixels.height == height && Pixel(1, 1)[2] > 150;
     });
   }
 
-  static inline fs::path folder_, start_;
-  Queue queue_;
-  std::unique_ptr<MpvPlayer> player_ = std::make_unique<MpvPlayer>(
-      [this](std::function<void()> closure) { queue_.Post(std::move(closure)); });
+  static inline std::unique_ptr<TempFolder> folder_;
+  std::unique_ptr<MpvPlayer> player_ =
+      std::make_unique<MpvPlayer>([](const std::function<void()>& closure) {
+        QMetaObject::invokeMethod(qApp, closure, Qt::QueuedConnection);
+      });
 };
 
 TEST(MpvVolume, IsTheCubeRootOfTheGain) {
@@ -161,7 +115,7 @@ TEST_F(MpvPlayerTest, RefusesWhatIsNoMediaOfItsOwn) {
       {"edit.wav", "# mpv EDL v0\ntone.wav\n"},
       {"joined.wav", "ffconcat version 1.0\nfile tone.wav\n"},
       {"sheet.cue", "FILE \"tone.wav\" WAVE\n  TRACK 01 AUDIO\n    INDEX 01 00:00:00\n"}};
-  for (const auto& [name, bytes] : files) Write(name, bytes);
+  for (const auto& [name, bytes] : files) folder_->Write(name, bytes);
   fs::create_directory("folder.wav");
   for (const char* none : {"folder.wav", "missing.cdg", "", "http://localhost/a.mp3"}) files[none];
   for (const auto& [name, bytes] : files) {
@@ -201,12 +155,12 @@ TEST_F(MpvPlayerTest, PauseKeepsThePlaceAndTheNextFileOpensPaused) {
   ASSERT_TRUE(player_->RenderFile("tone.wav"));
   EXPECT_TRUE(player_->SetBalance(-1000));
   player_->Run();
-  ASSERT_TRUE(queue_.Until([this] { return *player_->Position() > 0.2; }));
+  ASSERT_TRUE(Becomes([this] { return *player_->Position() > 0.2; }));
   ASSERT_TRUE(player_->Pause());
   EXPECT_TRUE(StandsStill());
   const double place = *player_->Position();
   ASSERT_TRUE(player_->Run());
-  ASSERT_TRUE(queue_.Until([&, this] { return *player_->Position() != place; }));
+  ASSERT_TRUE(Becomes([&, this] { return *player_->Position() != place; }));
   EXPECT_GT(*player_->Position(), place - 0.05);
   EXPECT_LT(*player_->Position(), 0.9);
 
@@ -233,11 +187,11 @@ TEST_F(MpvPlayerTest, RendersThePictureAtThePlacedSize) {
   int frames = 0;
   player_->on_frame = [&] { ++frames; };
   player_->Run();
-  EXPECT_TRUE(queue_.Until([&] { return frames > 3; }));
+  EXPECT_TRUE(Becomes([&] { return frames > 3; }));
   frames = 0;
   player_->Close();
   EXPECT_EQ(frames, 1);
-  queue_.Drain();
+  QCoreApplication::processEvents();
   EXPECT_EQ(frames, 1);
   EXPECT_TRUE(player_->pixels().bytes.empty());
 
@@ -277,15 +231,15 @@ TEST_F(MpvPlayerTest, TheSecondMonitorKeepsItsLastPictureUntilAnotherFileHasOne)
   EXPECT_FALSE(player_->PlaceVideo(room));
   EXPECT_FALSE(player_->pixels().bytes.empty());
   // The new one's first picture may be long in coming, and the old one is not its own.
-  Write("late.cdg", Cdg(150));
+  folder_->Write("late.cdg", Cdg(150));
   ASSERT_TRUE(player_->RenderFile("late.cdg"));
   ASSERT_TRUE(player_->PlaceVideo(room));
   EXPECT_TRUE(player_->pixels().bytes.empty());
 }
 
 TEST_F(MpvPlayerTest, KaraokePlaysItsSoundFromTheStartWithThePicture) {
-  Write("Duo: A, B.cdg", Cdg(150));
-  Write("duo: a, b.MP3", Read("tone.mp3"));
+  folder_->Write("Duo: A, B.cdg", Cdg(150));
+  folder_->Write("duo: a, b.MP3", folder_->Read("tone.mp3"));
   ASSERT_TRUE(player_->RenderFile("Duo: A, B.cdg"));
   EXPECT_NEAR(*player_->Length(), 1.03, 0.05);  // the sound's, not the CDG's 2 s
   EXPECT_NEAR(*player_->Position(), 0, 0.05);   // though the picture comes at 0.5 s
@@ -298,7 +252,7 @@ TEST_F(MpvPlayerTest, KaraokePlaysItsSoundFromTheStartWithThePicture) {
 }
 
 TEST_F(MpvPlayerTest, ACoverInTheSoundIsNoPicture) {
-  Write("cover.cdg", Cdg(0));
+  folder_->Write("cover.cdg", Cdg(0));
   ASSERT_TRUE(player_->RenderFile("cover.cdg"));
   ASSERT_TRUE(player_->NativeSize());
   EXPECT_EQ(player_->NativeSize()->width, 300);
@@ -308,12 +262,12 @@ TEST_F(MpvPlayerTest, ACoverInTheSoundIsNoPicture) {
 }
 
 TEST_F(MpvPlayerTest, KaraokeMakesDoWithOneOfItsFiles) {
-  Write("silent.cdg", Cdg(0));
+  folder_->Write("silent.cdg", Cdg(0));
   ASSERT_TRUE(player_->RenderFile("silent.CDG"));
   EXPECT_NEAR(*player_->Length(), 2, 0.05);
   EXPECT_TRUE(player_->NativeSize());
 
-  Write("tone.cdg", "");
+  folder_->Write("tone.cdg", "");
   ASSERT_TRUE(player_->RenderFile("tone.cdg"));
   EXPECT_FALSE(player_->NativeSize());
   EXPECT_TRUE(PlayToEnd());
@@ -324,7 +278,7 @@ TEST_F(MpvPlayerTest, APictureOnItsWayToAPlayerThatIsGoneIsDropped) {
   player_->PlaceVideo({VideoHost::kMainWindow, 0, 0, 64, 48});
   player_->on_frame = [] { ADD_FAILURE(); };
   player_.reset();
-  queue_.Drain();
+  QCoreApplication::processEvents();
 }
 
 }  // namespace

@@ -3,13 +3,13 @@
 
 #include <fcntl.h>
 #include <gtest/gtest.h>
-#include <poll.h>
 #include <pty.h>
 #include <unistd.h>
 
 #include <QCoreApplication>
 #include <array>
 
+#include "desktop/event_loop.h"
 #include "files/runtime_failure.h"
 #include "peripherals/led_sign.h"
 #include "support/temp_folder.h"
@@ -55,10 +55,8 @@ class SerialLineTest : public testing::Test {
  protected:
   SerialLineTest() {
     std::array<char, 128> name{};
-    // The pseudo-terminal's line, which echoes and changes bytes until somebody sets it.
-    int line = -1;
-    EXPECT_EQ(::openpty(&sign, &line, name.data(), nullptr, nullptr), 0);
-    keep_alive = line;
+    // The pseudo-terminal's line echoes and changes bytes until somebody sets it.
+    EXPECT_EQ(::openpty(&sign, &keep_alive, name.data(), nullptr, nullptr), 0);
     ::fcntl(sign, F_SETFL, O_NONBLOCK);
     device = name.data();
     folder.Write("ports.txt", "\n" + device + "\r\n");
@@ -67,17 +65,20 @@ class SerialLineTest : public testing::Test {
     if (sign >= 0) ::close(sign);
     ::close(keep_alive);
   }
-  // Everything that arrives until this many bytes are there, with the loop running.
-  std::string Read(size_t bytes) {
+  static void Send(SerialLine& line, const std::string& text) {
+    line.Open();
+    line.Output(text);
+    line.Close();
+  }
+  // Everything that arrives until this many bytes are there.
+  std::string Read(size_t bytes) const {
     std::string text;
-    for (int quiet = 0; text.size() < bytes && quiet < 500; ++quiet) {
-      QCoreApplication::processEvents();
-      pollfd end{sign, POLLIN, 0};
-      ::poll(&end, 1, 10);
+    Becomes([&] {
       std::array<char, 4096> block;
       const ssize_t count = ::read(sign, block.data(), block.size());
-      if (count > 0) text.append(block.data(), static_cast<size_t>(count)), quiet = 0;
-    }
+      if (count > 0) text.append(block.data(), static_cast<size_t>(count));
+      return text.size() >= bytes;
+    });
     return text;
   }
 
@@ -113,16 +114,11 @@ TEST_F(SerialLineTest, MoreThanTheLineHoldsGoesOutByItselfInPiecesAndTheLastWhen
   line->SetCommPort(2);
   std::string long_text;
   for (int i = 0; long_text.size() < 60000; ++i) long_text += std::to_string(i) + ' ';
-  const auto send = [&line](const std::string& text) {
-    line->Open();
-    line->Output(text);
-    line->Close();
-  };
-  send(long_text);
+  Send(*line, long_text);
   // The next message goes behind what is still on its way.
-  send("end");
+  Send(*line, "end");
   EXPECT_EQ(Read(long_text.size() + 3), long_text + "end");
-  send("bye");
+  Send(*line, "bye");
   line.reset();
   EXPECT_EQ(Read(3), "bye");
 }
@@ -147,11 +143,7 @@ TEST_F(SerialLineTest, ASignThatNeverTakesAByteOrIsGoneCostsOneLineAndNoTime) {
     // Unplugged: the device's name is gone as well.
     folder.Write("ports.txt", "/dev/serial/by-id/gone\n");
     line.SetCommPort(1);
-    for (int i = 0; i < 3; ++i) {
-      line.Open();
-      line.Output("lost");
-      line.Close();
-    }
+    for (int i = 0; i < 3; ++i) Send(line, "lost");
   }
   EXPECT_EQ(testing::internal::GetCapturedStderr(),
             "sonotik: the sign on " + device + " gets nothing: it takes no bytes\n");

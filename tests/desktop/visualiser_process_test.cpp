@@ -3,10 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include <QEventLoop>
-#include <QTimer>
-#include <functional>
-
+#include "desktop/event_loop.h"
 #include "support/temp_folder.h"
 
 namespace sonotik {
@@ -15,15 +12,6 @@ namespace {
 class VisualiserProcessTest : public testing::Test {
  protected:
   ~VisualiserProcessTest() override { VisualiserProcess(folder.path(), 0).AskToClose(); }
-  // With the loop running, for ten seconds at most.
-  static bool Becomes(const std::function<bool()>& true_at_last) {
-    for (int look = 0; look < 1000 && !true_at_last(); ++look) {
-      QEventLoop events;
-      QTimer::singleShot(10, &events, &QEventLoop::quit);
-      events.exec();
-    }
-    return true_at_last();
-  }
   // A script that draws nothing until it is ended; it leaves "ready" once it is deaf or not.
   std::string Script(const std::string& deaf) {
     folder.Write("draw \"it\"", deaf + "touch \"$1\"\nwhile :; do sleep 0.05; done\n");
