@@ -50,15 +50,14 @@ TEST(PlainLook, ShowsTheAlbumScreenFirstAndHidesFourteenPanelsOnDemand) {
 
 TEST(PlainLook, HidesWhatLiesOverOtherScreensAtFirst) {
   const Form1 form;
-  for (const Control* hidden :
-       {static_cast<const Control*>(&form.panels[screen::kChartChoice]),
-        static_cast<const Control*>(&form.panels[screen::kCarouselStrip]),
-        static_cast<const Control*>(&form.searching.panel),
-        static_cast<const Control*>(&form.genre_bar), static_cast<const Control*>(&form.pin_screen),
-        static_cast<const Control*>(&form.album.left_scroll),
-        static_cast<const Control*>(&form.decades.month_picker)}) {
-    EXPECT_FALSE(hidden->visible());
-  }
+  const Control* const hidden[] = {&form.panels[screen::kChartChoice],
+                                   &form.panels[screen::kCarouselStrip],
+                                   &form.searching.panel,
+                                   &form.genre_bar,
+                                   &form.pin_screen,
+                                   &form.album.left_scroll,
+                                   &form.decades.month_picker};
+  for (const Control* control : hidden) EXPECT_FALSE(control->visible());
 }
 
 TEST(PlainLook, KeepsTheShareOfWhatNoSkinPlaces) {

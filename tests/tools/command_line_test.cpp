@@ -4,6 +4,7 @@
 
 #include <sstream>
 
+#include "support/test_machine.h"
 #include "tools/config/report.h"
 #include "tools/config/running_time.h"
 
@@ -40,22 +41,15 @@ TEST(CommandLine, RefusesWhatItDoesNotUnderstand) {
   }
 }
 
-class HandClock : public Clock {
- public:
-  DateTime Now() const override { return {}; }
-  int64_t Milliseconds() const override { return now; }
-  int64_t now = 0;
-};
-
 TEST(ProgressLine, EstimatesTheTimeLeftAndComesSeldomOutsideATerminal) {
   for (const bool terminal : {true, false}) {
-    HandClock clock;
+    TestClock clock;
     std::ostringstream out;
     ProgressLine line(out, terminal, clock);
     BuildProgress progress{BuildProgress::Phase::kReading, CatalogueKind::kVideo, 0, 400};
     for (; progress.done < 100; ++progress.done) {
       line.Show(progress);
-      clock.now += 100;
+      clock.Add(100);
     }
     line.Show(progress);
     line.End();

@@ -2,9 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include <tuple>
-
-#include "files/line_format.h"
+#include "support/temp_folder.h"
+#include "tags/tag_reader.h"
 #include "text/text.h"
 
 namespace sonotik {
@@ -23,27 +22,16 @@ TrackInfo Sample() {
           "3:05"};
 }
 
-TEST(Sidecar, IsReadByLineNumbersAndCuts) {
-  const std::string text = SidecarText(Sample());
-  const std::tuple<int, size_t, size_t, const char*> cases[] = {{2, 8, 9, "Ada & \"Bob\", <c>"},
-                                                                {3, 7, 8, "D\u00E9j\u00E0  vu"},
-                                                                {4, 7, 8, "Dawn"},
-                                                                {5, 6, 7, "Cy"},
-                                                                {6, 7, 8, "3/12"},
-                                                                {7, 6, 7, "1999"},
-                                                                {8, 7, 8, "Pop"},
-                                                                {9, 14, 15, ""},
-                                                                {10, 13, 14, "fine"},
-                                                                {12, 10, 11, "3:05"}};
-  for (const auto& [line, front, back, value] : cases) {
-    LineReader lines(text);
-    for (int i = 1; i < line; ++i) lines.Next();
-    const std::string whole = lines.Next();
-    const std::string_view element = TrimBlanks(whole);
-    EXPECT_EQ(element.substr(front, element.size() - back - front), value) << "line " << line;
-  }
-  EXPECT_EQ(std::count(text.begin(), text.end(), '\n'), 13);
-  EXPECT_EQ(text.find("\r\n"), text.find('\n') - 1);
+TEST(Sidecar, IsReadByTheJukebox) {
+  const TempFolder folder;
+  folder.Write("a.mpg", "");
+  folder.Write("a.mpg.tag", SidecarText(Sample()));
+  TagFields f;
+  TagReader(f, [] { return false; }).ReadTagSidecar(folder.path() + "\\a.mpg");
+  EXPECT_EQ(f.txtArtist + "|" + f.txtTitle + "|" + f.txtAlbum + "|" + f.txtComposer + "|" +
+                f.txtTrack + "|" + f.txtYear + "|" + f.txtGenre + "|" + f.txtComments + "|" +
+                f.txtmp3time,
+            "Ada & \"Bob\", <c>|D\u00E9j\u00E0  vu|Dawn|Cy|3/12|1999|Pop|fine|3:05");
 }
 
 TEST(Sidecar, GivesItsNamesBackWhateverItsElementsAreCalledAndNothingIfItIsBroken) {
