@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 
 #include <QDir>
-#include <QFile>
 #include <QTemporaryDir>
 #include <set>
 
@@ -27,8 +26,7 @@ TEST(Alone, FactsAreOfSongsOnTheShelvesAndNothingThatIsThereIsReplaced) {
     }
   }
   const QByteArray facts = ReadFile(root + "/songfacts.dat");
-  ASSERT_GT(facts.size(), 0);
-  ASSERT_EQ(facts.size() % 1395, 0);
+  ASSERT_TRUE(facts.size() > 0 && facts.size() % 1395 == 0);
   for (qsizetype at = 0; at < facts.size(); at += 1395) {
     const QString song = QString::fromUtf8(facts.mid(at, 60).trimmed()) + "|" +
                          QString::fromUtf8(facts.mid(at + 60, 60).trimmed());

@@ -50,27 +50,23 @@ TEST(Files, AReplacedFileIsWholeAndLeavesNothingBeside) {
 }
 
 TEST(Files, WhatHoldsAPinIsForItsOwnerAlone) {
+  using std::filesystem::perms;
   const TempFolder folder;
-  const auto others = [&](const char* name) {
-    return std::filesystem::status(folder.native() / name).permissions() &
-           (std::filesystem::perms::group_all | std::filesystem::perms::others_all);
-  };
   // Also where it was made before for everybody.
   folder.Write("log.txt", "old");
   AppendToFile(folder.path() + "\\log.txt", "1234", FileAccess::kOwnerOnly);
   ReplaceFile(folder.path() + "\\settings.ini", "1234", FileAccess::kOwnerOnly);
-  EXPECT_EQ(others("log.txt"), std::filesystem::perms::none);
-  EXPECT_EQ(others("settings.ini"), std::filesystem::perms::none);
+  for (const char* name : {"log.txt", "settings.ini"}) {
+    const perms given = std::filesystem::status(folder.native() / name).permissions();
+    EXPECT_EQ(given & (perms::group_all | perms::others_all), perms::none) << name;
+  }
 }
 
 TEST(Files, OneFolderIsHeldOnce) {
   const TempFolder folder;
-  FolderLock first;
+  FolderLock first, second;
   EXPECT_TRUE(first.Take(folder.path()));
-  {
-    FolderLock second;
-    EXPECT_FALSE(second.Take(folder.path()));
-  }
+  EXPECT_FALSE(second.Take(folder.path()));
 }
 
 TEST(FileLists, AreSortedByNameAndFilteredByPatternWithoutRegardToCase) {
@@ -101,13 +97,14 @@ TEST(LineFormat, FieldsEndAtCommasAndLineEnds) {
 }
 
 TEST(LineFormat, ValuesOfAnotherKindAreRefused) {
-  EXPECT_THROW(FieldReader("32768\r\n").Int16(), RuntimeFailure);
-  EXPECT_THROW(FieldReader("2147483648\r\n").Int32(), RuntimeFailure);
-  EXPECT_THROW(FieldReader("abc\r\n").Int16(), RuntimeFailure);
-  EXPECT_THROW(FieldReader("2\r\n").Check(), RuntimeFailure);
-  EXPECT_THROW(FieldReader("Yes\r\n").Truth(), RuntimeFailure);
-  EXPECT_EQ(FieldReader("2.5\r\n").Int16(), 2);
-  EXPECT_TRUE(FieldReader("-1\r\n").Truth());
+  for (const char* none : {"32768", "abc"}) {
+    EXPECT_THROW(FieldReader(none).Int16(), RuntimeFailure) << none;
+  }
+  EXPECT_THROW(FieldReader("2147483648").Int32(), RuntimeFailure);
+  EXPECT_THROW(FieldReader("2").Check(), RuntimeFailure);
+  EXPECT_THROW(FieldReader("Yes").Truth(), RuntimeFailure);
+  EXPECT_EQ(FieldReader("2.5").Int16(), 2);
+  EXPECT_TRUE(FieldReader("-1").Truth());
 }
 
 TEST(RecordFiles, CountWholeRecordsAndAnEmptyOneAsOne) {

@@ -77,32 +77,27 @@ TEST_P(DeliveredSkins, KeepEverySettingOnItsPageApartAndAtLeast48High) {
       page.ShowPage(number);
       std::vector<const Control*> shown;
       for (const Control* child : panel.children()) {
-        if (child->visible() && dynamic_cast<const Slider*>(child) == nullptr) {
-          shown.push_back(child);
-        }
-      }
-      for (size_t i = 0; i < shown.size(); ++i) {
-        const Rect place = shown[i]->place();
-        EXPECT_TRUE(inside.Contains(place)) << section << " " << i;
-        const auto* field = dynamic_cast<const OptionField*>(shown[i]);
-        if (field != nullptr) {
+        if (!child->visible() || dynamic_cast<const Slider*>(child) != nullptr) continue;
+        const Rect place = child->place();
+        SCOPED_TRACE(testing::Message() << section << " " << shown.size());
+        EXPECT_TRUE(inside.Contains(place));
+        EXPECT_TRUE(page.pages() == 1 || place.bottom() <= screen.page_forward.place().top);
+        if (const auto* field = dynamic_cast<const OptionField*>(child)) {
           EXPECT_GE(place.height, 48) << field->caption();
           ++fields;
         }
-        for (size_t k = 0; k < i; ++k) {
-          EXPECT_TRUE(place.Intersected(shown[k]->place()).empty()) << section << " " << i;
+        for (const Control* other : shown) {
+          EXPECT_TRUE(place.Intersected(other->place()).empty());
         }
-        EXPECT_TRUE(page.pages() == 1 || place.bottom() <= screen.page_forward.place().top);
+        shown.push_back(child);
       }
     }
     EXPECT_GT(fields, 5U) << section;
   }
-  const OptionPicker& picker = screen.picker;
-  EXPECT_GE(picker.items[0].place().height, 48);
-  EXPECT_GE(picker.done.place().height, 48);
-  EXPECT_GE(screen.keyboard.keys[0].place().height, 48);
-  EXPECT_GE(screen.page_forward.place().height, 48);
-  EXPECT_GE(screen.calendar.days[0].place().height, 48);
+  const Control* const others[] = {&screen.picker.items[0], &screen.picker.done,
+                                   &screen.keyboard.keys[0], &screen.page_forward,
+                                   &screen.calendar.days[0]};
+  for (const Control* other : others) EXPECT_GE(other->place().height, 48);
 }
 
 INSTANTIATE_TEST_SUITE_P(All, DeliveredSkins, testing::Values(&Neon(), &Classic()),

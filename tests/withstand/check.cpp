@@ -38,12 +38,21 @@ class Check {
   explicit Check(std::string folder) : folder_(std::move(folder)) {}
 
   int Run() {
-    Settings();
-    for (const auto& file : kLineFiles) Lines(file.name, file.lines);
-    Queue("queue.dat", 0);
-    Queue("queue.upl", 3);
-    History("User_history.dat");
-    History("Random_history.dat");
+    Settings settings;
+    OptionLists lists;
+    lists.FillFixed(1);
+    Quiet messages;
+    SettingsFile(folder_, settings, lists, messages).LoadConfig();
+    if (!messages.shown.empty()) Fault("sonotik.ini", messages.shown);
+    for (const auto& file : kLineFiles)
+      Lines(file.name, [&](const std::string&) { return file.lines; });
+    // Path and cover of each entry, with so many lines of names behind each, and an empty pair.
+    for (const auto& [name, names] : {std::pair{"queue.dat", 0}, {"queue.upl", 3}}) {
+      Lines(name, [names = names](const std::string& text) {
+        return 3 + static_cast<long>(NumberOrZero(text.substr(0, text.find('\r')))) * (2 + names);
+      });
+    }
+    for (const char* name : {"User_history.dat", "Random_history.dat"}) History(name);
     return faults_;
   }
 
@@ -54,32 +63,13 @@ class Check {
     ++faults_;
   }
 
-  void Settings() {
-    sonotik::Settings settings;
-    OptionLists lists;
-    lists.FillFixed(1);
-    Quiet messages;
-    SettingsFile(folder_, settings, lists, messages).LoadConfig();
-    if (!messages.shown.empty()) Fault("sonotik.ini", messages.shown);
-  }
-
-  void Lines(const char* name, long lines) {
+  template <typename Expected>
+  void Lines(const char* name, Expected expected) {
     if (!FileExists(Path(name))) return;
     const std::string text = ReadWholeFile(Path(name));
-    const long found = std::count(text.begin(), text.end(), '\n');
-    if (found != lines || !text.ends_with("\r\n")) {
-      Fault(name, std::to_string(found) + " lines of " + std::to_string(lines));
-    }
-  }
-
-  // Path and cover of each entry, with so many lines of names behind each, and an empty pair.
-  void Queue(const char* name, int names) {
-    if (!FileExists(Path(name))) return;
-    const std::string text = ReadWholeFile(Path(name));
-    const long found = std::count(text.begin(), text.end(), '\n');
-    const long entries = static_cast<long>(NumberOrZero(text.substr(0, text.find('\r'))));
-    if (found != 3 + entries * (2 + names)) {
-      Fault(name, std::to_string(found) + " lines for " + std::to_string(entries) + " entries");
+    const long found = std::count(text.begin(), text.end(), '\n'), due = expected(text);
+    if (found != due || !text.ends_with("\r\n")) {
+      Fault(name, std::to_string(found) + " lines of " + std::to_string(due));
     }
   }
 
