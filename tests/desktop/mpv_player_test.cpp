@@ -29,8 +29,9 @@ class MpvPlayerTest : public testing::Test {
         "-disposition:v attached_pic cover.mp3");
     const std::string tone = folder_->Read("tone.wav");
     folder_->Write("cut.wav", tone.substr(0, tone.size() / 2));
-    for (const char* copy : {"-vo.wav", "a:b,c;%41&.wav", "caf\xe9.wav"})
-      folder_->Write(copy, tone);
+    for (const char* name : {"-vo.wav", "a:b,c;%41&.wav", "caf\xe9.wav"}) {
+      folder_->Write(name, tone);
+    }
   }
   static void TearDownTestSuite() {
     fs::current_path("/");

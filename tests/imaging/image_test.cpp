@@ -70,16 +70,9 @@ TEST(Images, TakeTheirDepthFromThePictureOrFromItsColors) {
   picture.width = picture.height = 3;
   picture.bytes_per_row = 16;
   picture.bytes = bytes;
-  for (const auto [own, asked, wanted] : {std::array{1, 0, 1},
-                                          {4, 0, 4},
-                                          {8, 0, 8},
-                                          {16, 0, 24},
-                                          {24, 0, 24},
-                                          {32, 0, 24},
-                                          {24, 16, 24},
-                                          {24, 1, 1},
-                                          {24, 32, 0},
-                                          {15, 0, 0}}) {
+  const int depths[][3] = {{1, 0, 1},   {4, 0, 4},    {8, 0, 8},  {16, 0, 24}, {24, 0, 24},
+                           {32, 0, 24}, {24, 16, 24}, {24, 1, 1}, {24, 32, 0}, {15, 0, 0}};
+  for (const auto [own, asked, wanted] : depths) {
     picture.bit_count = own;
     cImage image;
     EXPECT_EQ(image.CopyStdPicture(picture, asked), wanted != 0) << own << " as " << asked;
@@ -133,22 +126,23 @@ TEST(Images, AreMirroredTurnedClockwiseAndPickedFromInEveryDepth) {
   for (const int depth : {1, 4, 8, 24}) {
     const cImage image = Pattern(depth);
     const int w = image.Width(), h = image.Height();
-    const auto across = [=](int x, int y) { return Place{w - 1 - x, y}; };
-    const auto down = [=](int x, int y) { return Place{x, h - 1 - y}; };
     const auto quarter = [=](int x, int y) { return Place{y, h - 1 - x}; };
-    const auto half = [=](int x, int y) { return Place{w - 1 - x, h - 1 - y}; };
     const auto back = [=](int x, int y) { return Place{w - 1 - y, x}; };
-    const auto same = [](int x, int y) { return Place{x, y}; };
-    const auto doubled = [](int x, int y) { return Place{x / 2, y / 3}; };
-    ExpectMoved(image.Mirror(false), image, w, h, across);
-    ExpectMoved(image.Mirror(true), image, w, h, down);
     ExpectMoved(image.Rotate(90), image, h, w, quarter);
     ExpectMoved(image.Rotate(450), image, h, w, quarter);
-    ExpectMoved(image.Rotate(180), image, w, h, half);
     ExpectMoved(image.Rotate(270), image, h, w, back);
     ExpectMoved(image.Rotate(-90), image, h, w, back);
-    ExpectMoved(image.Resample(w, h), image, w, h, same);
-    ExpectMoved(image.Resample(2 * w, 3 * h), image, 2 * w, 3 * h, doubled);
+    ExpectMoved(image.Rotate(180), image, w, h, [=](int x, int y) {
+      return Place{w - 1 - x, h - 1 - y};
+    });
+    ExpectMoved(image.Mirror(false), image, w, h, [=](int x, int y) {
+      return Place{w - 1 - x, y};
+    });
+    ExpectMoved(image.Mirror(true), image, w, h, [=](int x, int y) { return Place{x, h - 1 - y}; });
+    ExpectMoved(image.Resample(w, h), image, w, h, [](int x, int y) { return Place{x, y}; });
+    ExpectMoved(image.Resample(2 * w, 3 * h), image, 2 * w, 3 * h, [](int x, int y) {
+      return Place{x / 2, y / 3};
+    });
     for (const int none : {0, 360, 45, -1, INT_MIN}) EXPECT_FALSE(image.Rotate(none)) << none;
     for (const auto& [width, height] : {Place{0, 5}, {5, -5}, {INT_MAX, INT_MAX}}) {
       EXPECT_FALSE(image.Resample(width, height)) << width;

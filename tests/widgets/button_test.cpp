@@ -162,13 +162,10 @@ TEST(Buttons, ArrowsMoveTheFocusAndChooseTheOption) {
 
 TEST(Buttons, TheLastSingleAmpersandMarksAnAccessKeyAndEnterAndEscapeClickOnlyCommands) {
   Keypad k;
-  for (const auto& [caption, key] : {std::pair{"A&&B", 0},
-                                     {"&New &Search", 'S'},
-                                     {"&x&&y", 'X'},
-                                     {"Tom && &jerry", 'J'},
-                                     {"ends in &", 0},
-                                     {"", 0},
-                                     {"&Play", 'P'}}) {
+  const std::pair<const char*, int> cases[] = {
+      {"A&&B", 0}, {"&New &Search", 'S'}, {"&x&&y", 'X'}, {"Tom && &jerry", 'J'}, {"ends in &", 0},
+      {"", 0},     {"&Play", 'P'}};
+  for (const auto& [caption, key] : cases) {
     k.buttons[1].SetCaption(caption);
     EXPECT_EQ(k.buttons[1].access_key(), key) << caption;
   }

@@ -44,8 +44,9 @@ class Check {
     Quiet messages;
     SettingsFile(folder_, settings, lists, messages).LoadConfig();
     if (!messages.shown.empty()) Fault("sonotik.ini", messages.shown);
-    for (const auto& file : kLineFiles)
+    for (const auto& file : kLineFiles) {
       Lines(file.name, [&](const std::string&) { return file.lines; });
+    }
     // Path and cover of each entry, with so many lines of names behind each, and an empty pair.
     for (const auto& [name, names] : {std::pair{"queue.dat", 0}, {"queue.upl", 3}}) {
       Lines(name, [names = names](const std::string& text) {
