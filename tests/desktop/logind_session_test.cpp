@@ -14,26 +14,6 @@
 namespace sonotik {
 namespace {
 
-// A bus of the test's own, gone with it.
-class PrivateBus {
- public:
-  PrivateBus() {
-    daemon_.start("dbus-daemon", {"--session", "--nofork", "--print-address"});
-    if (daemon_.waitForStarted() && daemon_.waitForReadyRead()) {
-      address_ = QString::fromUtf8(daemon_.readLine()).trimmed();
-    }
-  }
-  ~PrivateBus() {
-    daemon_.kill();
-    daemon_.waitForFinished();
-  }
-  const QString& address() const { return address_; }
-
- private:
-  QProcess daemon_;
-  QString address_;
-};
-
 // Stands where the login manager stands and keeps what it was asked.
 class StandIn : public QDBusVirtualObject {
  public:
@@ -50,9 +30,11 @@ class StandIn : public QDBusVirtualObject {
 };
 
 TEST(LogindSession, AsksTheLoginManagerWithoutAPassword) {
-  const PrivateBus daemon;
-  ASSERT_FALSE(daemon.address().isEmpty());
-  QDBusConnection service = QDBusConnection::connectToBus(daemon.address(), "stand-in");
+  QProcess daemon;
+  daemon.start("dbus-daemon", {"--session", "--nofork", "--print-address"});
+  ASSERT_TRUE(daemon.waitForStarted() && daemon.waitForReadyRead());
+  const QString address = QString::fromUtf8(daemon.readLine()).trimmed();
+  QDBusConnection service = QDBusConnection::connectToBus(address, "stand-in");
   StandIn manager;
   ASSERT_TRUE(service.registerVirtualObject("/org/freedesktop/login1", &manager));
   ASSERT_TRUE(service.registerService("org.freedesktop.login1"));
@@ -60,7 +42,7 @@ TEST(LogindSession, AsksTheLoginManagerWithoutAPassword) {
   {
     // The asker waits for the answer, so it has a thread of its own.
     const std::unique_ptr<QThread> asker(QThread::create([&] {
-      LogindSession session(QDBusConnection::connectToBus(daemon.address(), "asker"));
+      LogindSession session(QDBusConnection::connectToBus(address, "asker"));
       for (const SessionEnd end : {SessionEnd::kLogOff, SessionEnd::kShutdown, SessionEnd::kReboot,
                                    SessionEnd::kPowerOff}) {
         session.End(end);
@@ -79,6 +61,8 @@ TEST(LogindSession, AsksTheLoginManagerWithoutAPassword) {
                          manager_name + "Reboot(false)"}));
   QDBusConnection::disconnectFromBus("asker");
   QDBusConnection::disconnectFromBus("stand-in");
+  daemon.kill();
+  daemon.waitForFinished();
 }
 
 TEST(LogindSession, WithoutALoginManagerNothingHappens) {

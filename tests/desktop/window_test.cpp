@@ -89,9 +89,8 @@ TEST_F(WindowTest, PaintsASkinWhoseNumbersMakeNoSense) {
                      if (kind == FieldKind::kFontSize) return number;
                      if (kind == FieldKind::kPicture) return third ? "" : "a.bmp";
                      if (kind == FieldKind::kShape) return std::to_string(field.number % 9);
-                     if (kind < FieldKind::kTop || kind > FieldKind::kWidth) {
-                       return PlainValue(field);
-                     }
+                     const bool place = kind >= FieldKind::kTop && kind <= FieldKind::kWidth;
+                     if (!place) return PlainValue(field);
                      return third || kind >= FieldKind::kHeight ? number : "0";
                    }));
     }
@@ -135,16 +134,13 @@ TEST(EventLoop, OtherTimersGoOnWhileAHandlerLetsEventsRun) {
   Timers timers(clock);
   QtEventLoop loop;
   loop.Drive(timers);
-  Timer slow(timers, 1);
-  Timer poll(timers, 1);
+  Timer slow(timers, 1), poll(timers, 1);
   int polls = 0;
   poll.on_tick = [&] { ++polls; };
   slow.on_tick = [&] {
     slow.SetEnabled(false);
-    // Bounded by the clock, ended by what it waits for.
-    const int64_t give_up = clock.Milliseconds() + 5000;
-    while (polls < 5 && clock.Milliseconds() < give_up) loop.PumpEvents();
-    loop.Leave(polls >= 5 ? 7 : 1);
+    while (polls < 5) loop.PumpEvents();
+    loop.Leave(7);
   };
   slow.SetEnabled(true);
   poll.SetEnabled(true);
@@ -166,13 +162,13 @@ QRect MarksOf(const std::string& text, const Rect& place, bool wrap) {
   PainterCanvas canvas(painter, pictures, {0, 0, 400, 200}, 1);
   canvas.DrawText(text, place, {{.points = 12}, kBlack, Align::kLeft, wrap});
   painter.end();
-  QRegion marks;
+  QRect marks;
   for (int y = 0; y < paper.height(); ++y) {
     for (int x = 0; x < paper.width(); ++x) {
-      if (qGray(paper.pixel(x, y)) < 200) marks += QRect(x, y, 1, 1);
+      if (qGray(paper.pixel(x, y)) < 200) marks |= QRect(x, y, 1, 1);
     }
   }
-  return marks.boundingRect();
+  return marks;
 }
 
 TEST(Texts, ThatDoNotFitAreWrittenSmallerAndThenCut) {
@@ -206,34 +202,34 @@ TEST(Pictures, AreDecodedOnceAtTheirSizeAndAgainOnlyWhenTheFileChanges) {
   ASSERT_TRUE(image.save(native));
   PictureCache pictures;
   const std::string path = folder.path() + "\\cover.JPG";
-  const struct {
-    PictureFit fit;
-    QSize size;
-  } cases[] = {{PictureFit::kStretch, {100, 100}},
-               {PictureFit::kCover, {100, 100}},
-               {PictureFit::kContain, {100, 50}},
-               {PictureFit::kReflection, {100, 100}}};
-  for (const auto& c : cases) {
-    EXPECT_EQ(pictures.Get(path, {100, 100}, c.fit).size(), c.size);
-    pictures.Get(path, {100, 100}, c.fit);
+  const std::pair<PictureFit, int> heights[] = {{PictureFit::kStretch, 100},
+                                                {PictureFit::kCover, 100},
+                                                {PictureFit::kContain, 50},
+                                                {PictureFit::kReflection, 100}};
+  for (int times = 0; times < 2; ++times) {
+    for (const auto& [fit, height] : heights) {
+      EXPECT_EQ(pictures.Get(path, {100, 100}, fit).size(), QSize(100, height));
+    }
   }
   EXPECT_EQ(pictures.decodes(), 4);
   image.fill(Qt::blue);
   ASSERT_TRUE(image.save(native, nullptr, 40));
-  const QRgb pixel = pictures.Get(path, {100, 100}, PictureFit::kCover).pixel(50, 50);
-  EXPECT_GT(qBlue(pixel), 200);
+  const QImage again = pictures.Get(path, {100, 100}, PictureFit::kCover);
+  EXPECT_GT(qBlue(again.pixel(50, 50)), 200);
 }
 
 TEST(Pictures, AreBoundedAndHostileOnesAreNone) {
   const TempFolder folder;
   PictureCache pictures(1 << 20);
+  const auto is_picture = [&](const std::string& name) {
+    return !pictures.Get(folder.path() + "\\" + name, {400, 400}, PictureFit::kCover).isNull();
+  };
   QImage image(400, 400, QImage::Format_RGB32);
   image.fill(Qt::green);
   for (int i = 0; i < 10; ++i) {
     const std::string name = std::to_string(i) + ".png";
     ASSERT_TRUE(image.save(QString::fromStdString((folder.native() / name).string())));
-    EXPECT_FALSE(
-        pictures.Get(folder.path() + "\\" + name, {400, 400}, PictureFit::kCover).isNull());
+    EXPECT_TRUE(is_picture(name));
     EXPECT_LE(pictures.bytes(), (1 << 20));
   }
   std::string whole = folder.Read("0.png");
@@ -243,8 +239,7 @@ TEST(Pictures, AreBoundedAndHostileOnesAreNone) {
   whole.replace(16, 8, std::string("\0\0\x75\x30\0\0\x75\x30", 8));
   folder.Write("huge.png", whole);
   for (const char* name : {"cut.png", "empty.jpg", "huge.png", "gone.png"}) {
-    EXPECT_TRUE(pictures.Get(folder.path() + "\\" + name, {100, 100}, PictureFit::kCover).isNull())
-        << name;
+    EXPECT_FALSE(is_picture(name)) << name;
   }
 }
 

@@ -16,19 +16,22 @@ using testing::ThrowsMessage;
 
 class SkinLoaderTest : public JukeboxTest {
  protected:
-  // The skin that the settings name; the jukebox has started with the forms' own look.
-  SkinLoader& Skins() {
-    if (!jukebox) Start();
-    return house().skins;
-  }
+  // With the forms' own look; the settings name a skin that has no files yet.
+  void SetUp() override { Start(); }
+  SkinLoader& Skins() { return house().skins; }
   void Write(const std::string& name, const std::string& bytes) {
     folder.Write("skins/Plain/" + name, bytes);
   }
   void WriteLayout(const char* name, const FieldText& value = PlainValue) {
     Write(name, LayoutText(*FindLayoutFile(name), value));
   }
-  void WriteSkinFile(int number, const std::string& text) {
+  void PutOn(const char* name, const FieldText& value = PlainValue) {
+    WriteLayout(name, value);
+    Skins().ApplySkin();
+  }
+  void PutOnSkinFile(int number, const std::string& text) {
     Write("skin.ini", LayoutText(SkinFile(), PlainBut(number, text)));
+    Skins().ApplySkin();
   }
   std::string PathOf(const std::string& name) const {
     return folder.path() + "\\skins\\Plain\\" + name;
@@ -40,13 +43,13 @@ class SkinLoaderTest : public JukeboxTest {
 
 TEST_F(SkinLoaderTest, PutsTheSkinOnWhileTheJukeboxStarts) {
   WriteLayout("spin.ini");
+  jukebox.reset();
   Start();
   EXPECT_EQ(form().album.tabs[5].caption(), "Caption 2");
   EXPECT_THAT(folder.Read("debug.log"), HasSubstr("Skin Load Complete"));
 }
 
 TEST_F(SkinLoaderTest, EndsAtADamagedFileAndKeepsWhatWasPutOn) {
-  Skins();
   WriteLayout("search.ini");
   Write("tracklist.ini", "a\nCaption\nword\n");
   WriteLayout("top20.ini");
@@ -57,18 +60,15 @@ TEST_F(SkinLoaderTest, EndsAtADamagedFileAndKeepsWhatWasPutOn) {
 }
 
 TEST_F(SkinLoaderTest, TellsOfDamagedOptionsAndGoesOn) {
-  Skins();
   const std::string whole = LayoutText(*FindLayoutFile("options.ini"));
   Write("options.ini", whole.substr(0, 600));
-  WriteLayout("pin_screen.ini");
-  Skins().ApplySkin();
+  PutOn("pin_screen.ini");
   EXPECT_THAT(machine.messages.shown, ElementsAre("OPTIONS.INI is corrupt"));
   EXPECT_EQ(form().pin.keys[9].caption(), "Caption 135");
   EXPECT_EQ(form().options.sections[0].place().top, 9.5F);
 }
 
 TEST_F(SkinLoaderTest, TakesPicturesThatAreThereAndLeavesTheOthers) {
-  Skins();
   Write("a.jpg", "x");
   Write("b.jpg", "y");
   for (const char* name : {"menu.bmp", "player.bmp", "slider_back.bmp", "slider_button.bmp"}) {
@@ -95,30 +95,24 @@ TEST_F(SkinLoaderTest, TakesPicturesThatAreThereAndLeavesTheOthers) {
 }
 
 TEST_F(SkinLoaderTest, PlaysTheIndicatorAndEmptiesItForWhatIsNoAnimation) {
-  Skins();
   Write("on.gif", gif::Head() + gif::Dot() + gif::Dot());
-  WriteSkinFile(36, "on.gif");
-  Skins().ApplySkin();
+  PutOnSkinFile(36, "on.gif");
   EXPECT_EQ(form().now_playing_indicator.frame_count(), 2);
   EXPECT_TRUE(form().now_playing_indicator.playing());
-  WriteSkinFile(36, "gone.gif");
-  Skins().ApplySkin();
+  PutOnSkinFile(36, "gone.gif");
   EXPECT_EQ(form().now_playing_indicator.frame_count(), 2);
   Write("a.jpg", "x");
-  WriteSkinFile(36, "a.jpg");
-  Skins().ApplySkin();
+  PutOnSkinFile(36, "a.jpg");
   EXPECT_EQ(form().now_playing_indicator.frame_count(), 0);
 }
 
 TEST_F(SkinLoaderTest, ShowsAsManyTrackRowsAsTheSkinAsksFor) {
-  Skins();
   const struct {
     const char* text;
     int rows;
   } kCounts[] = {{"5", 5}, {"0", 0}, {"13", 13}, {"14", 13}, {"-1", 0}, {"2000000000", 13}};
   for (const auto& count : kCounts) {
-    WriteSkinFile(38, count.text);
-    Skins().ApplySkin();
+    PutOnSkinFile(38, count.text);
     EXPECT_EQ(house().track_list.rows_per_page(), count.rows);
     for (int i = 0; i < 13; ++i) {
       EXPECT_EQ(form().track_list.rows[static_cast<size_t>(i)].title.visible(), i < count.rows);
@@ -127,34 +121,27 @@ TEST_F(SkinLoaderTest, ShowsAsManyTrackRowsAsTheSkinAsksFor) {
 }
 
 TEST_F(SkinLoaderTest, LetsTheHeadOfThePlayerOverruleTheSettings) {
-  Skins();
   const lvButtons_H& louder = form().player_buttons[4];
-  const auto apply = [&](const char* head) {
-    WriteLayout("player.ini", PlainBut(1, head));
-    Skins().ApplySkin();
-  };
   const Rect design = form().volume.place();
   for (const char* head : {"0", "any text", "version 2", ""}) {
-    apply(head);
+    PutOn("player.ini", PlainBut(1, head));
     EXPECT_FALSE(louder.visible()) << head;
     EXPECT_FALSE(form().volume.visible()) << head;
   }
-  apply("1");
+  PutOn("player.ini", PlainBut(1, "1"));
   EXPECT_TRUE(louder.visible());
   EXPECT_EQ(form().volume.place(), design);
   house().settings.volume_buttons = false;
-  apply("Version 2 and a half");
+  PutOn("player.ini", PlainBut(1, "Version 2 and a half"));
   EXPECT_FALSE(louder.visible());
   EXPECT_TRUE(form().volume.visible());
   EXPECT_EQ(form().volume.place().left, 70.5F);
 }
 
 TEST_F(SkinLoaderTest, ChoosesPageButtonsOrScrollPanels) {
-  Skins();
   const AlbumScreen& album = form().album;
   for (const char* mode : {"0", "1", "2", "0"}) {
-    WriteLayout("nav.ini", PlainBut(1, mode));
-    Skins().ApplySkin();
+    PutOn("nav.ini", PlainBut(1, mode));
     EXPECT_EQ(album.next.visible(), mode[0] == '0');
     EXPECT_EQ(album.jump_to_letter.visible(), mode[0] == '0');
     // Any other leaves all as it was: here the scroll panels of the mode before.
@@ -172,19 +159,16 @@ TEST_F(SkinLoaderTest, TakesTheHeadOfTheMenuForTheGenres) {
   // Without its two fields of size the file is read on at once: a caption is due there.
   EXPECT_THAT(ApplyingIt(), ThrowsMessage<RuntimeFailure>(HasSubstr("menu.ini")));
   EXPECT_EQ(form().menu.place(), design);
-  WriteLayout("menu.ini");
-  Skins().ApplySkin();
+  PutOn("menu.ini");
   EXPECT_EQ(Skins().screens.genre_style(), 1);
   EXPECT_EQ(form().menu.place().height, 2.5F);
 }
 
 TEST_F(SkinLoaderTest, PlacesThreeScreensOnceMoreAndWhatNoFilePlaces) {
-  Skins();
   WriteLayout("main.ini", PlainBut(37, "1920"));
   WriteLayout("now_playing.ini");
   WriteLayout("jumptoletter2.ini");
-  WriteLayout("queue.ini", PlainBut(142 + 2, "1000"));
-  Skins().ApplySkin();
+  PutOn("queue.ini", PlainBut(142 + 2, "1000"));
   for (const size_t index : {7u, 10u, 5u}) {
     EXPECT_EQ(form().panel(index).place(), form().panel(0).place());
   }
@@ -201,7 +185,6 @@ TEST_F(SkinLoaderTest, PlacesThreeScreensOnceMoreAndWhatNoFilePlaces) {
 }
 
 TEST_F(SkinLoaderTest, GivesTheWindowItsFrameOrTheWholeScreen) {
-  Skins();
   auto& calls = machine.displays.calls;
   Write("resolution.ini", "a\nb\nc\n1024\n768\n");
   Skins().ApplySkin();
@@ -221,7 +204,6 @@ TEST_F(SkinLoaderTest, GivesTheWindowItsFrameOrTheWholeScreen) {
 }
 
 TEST_F(SkinLoaderTest, ShowsAButtonForEachOfFourSpecialLists) {
-  Skins();
   const auto& buttons = form().search_results.lists;
   for (const char* name : {"e.txt", "b", "A.csv", "d.txt", "c.txt"}) {
     folder.Write(std::string("lists/") + name, "0");
@@ -237,7 +219,6 @@ TEST_F(SkinLoaderTest, ShowsAButtonForEachOfFourSpecialLists) {
 }
 
 TEST_F(SkinLoaderTest, SaysHowManySkinsCameOrWent) {
-  Skins();
   auto& shown = machine.messages.shown;
   house().lists.skins = house().lists.calendar_skins = {"Plain"};
   Skins().Select("Plain");
@@ -260,41 +241,35 @@ TEST_F(SkinLoaderTest, SaysHowManySkinsCameOrWent) {
               ElementsAre(" 2 Skins Added...", " 1 Skins Removed...", " 2 Skins Removed..."));
 }
 
-TEST_F(SkinLoaderTest, OnlyPreviewsTheSkinThatIsPicked) {
-  folder.Write("skins/Neon/resolution.ini", "a\nb\nc\n 1920 \n 1080 \n");
-  folder.Write("skins/Neon/preview.jpg", "x");
-  Skins().UpdateSkinList();
-  Skins().Select("Neon");
-  const OptionsScreen& options = form().options;
-  EXPECT_EQ(options.skin_preview.picture(), folder.path() + "\\skins\\Neon\\preview.jpg");
-  EXPECT_EQ(options.skin_resolution.caption(), "Resolution: 1920 x 1080");
-  EXPECT_EQ(house().settings.current_skin, "Plain");
-  EXPECT_EQ(form().form.place().width, 1280);
-  Skins().Select("Plain");
-  EXPECT_EQ(options.skin_preview.picture(), "");
-  // A size is not taken away.
-  EXPECT_EQ(options.skin_resolution.caption(), "Resolution: 1920 x 1080");
-}
-
 std::string CoverLayoutText(int covers) {
   std::string text = "label\n" + std::to_string(covers) + "\n0\n1\n";
   for (int i = 0; i < covers * 24; ++i) text += std::to_string(i) + "\n";
   return text;
 }
 
-TEST_F(SkinLoaderTest, PutsThePickedSkinOnWithItsFirstCoverLayout) {
+TEST_F(SkinLoaderTest, PreviewsThePickedSkinAndPutsItOnWithItsFirstCoverLayout) {
+  folder.Write("skins/Neon/resolution.ini", "a\nb\nc\n 1920 \n 1080 \n");
+  folder.Write("skins/Neon/preview.jpg", "x");
   folder.Write("skins/Neon/b.cov", CoverLayoutText(7));
   folder.Write("skins/Neon/A.COV", CoverLayoutText(3));
   folder.Write("skins/Plain/twelve.cov", CoverLayoutText(12));
-  WriteAlbums({{"Dawn", "Ada"}});
   Skins().UpdateSkinList();
-  Skins().Select("Neon");
+  const OptionsScreen& options = form().options;
+  for (const char* name : {"Neon", "Plain", "Neon"}) {
+    Skins().Select(name);
+    EXPECT_EQ(options.skin_preview.picture(),
+              name[0] == 'N' ? folder.path() + "\\skins\\Neon\\preview.jpg" : "");
+    // A size is not taken away.
+    EXPECT_EQ(options.skin_resolution.caption(), "Resolution: 1920 x 1080");
+  }
   house().state.attract_settings_loaded = false;
   jukebox->effects.ApplySelectedSkin();
   EXPECT_EQ(house().settings.current_skin, "Plain");
+  EXPECT_EQ(form().form.place().width, 1280);
   house().state.attract_settings_loaded = true;
   jukebox->effects.ApplySelectedSkin();
   EXPECT_EQ(house().settings.current_skin, "Neon");
+  EXPECT_EQ(form().form.place().width, 1920);
   EXPECT_EQ(house().cover_layout.covers_per_page, 3);
   EXPECT_EQ(house().settings.cover_layout, 0);
   EXPECT_THAT(house().lists.cover_layouts, ElementsAre("A.COV", "b.cov"));
@@ -306,6 +281,8 @@ TEST_F(SkinLoaderTest, KeepsTheSelectedCoverLayoutUnlessTheFolderIsAnother) {
   Write("b.cov", CoverLayoutText(5));
   settings.cover_layout = 1;
   WriteDefaults();
+  jukebox.reset();
+  Start();
   Skins().ApplySkin();
   EXPECT_EQ(house().settings.cover_layout, 1);
   EXPECT_EQ(house().cover_layout.covers_per_page, 5);
@@ -317,7 +294,6 @@ TEST_F(SkinLoaderTest, KeepsTheSelectedCoverLayoutUnlessTheFolderIsAnother) {
 }
 
 TEST_F(SkinLoaderTest, TakesNoHalfCoverLayout) {
-  Skins();
   CoverLayout layout;
   const auto load = [&](const std::string& text) {
     folder.Write("a.cov", text);
