@@ -60,18 +60,5 @@ TEST(PlainLook, HidesWhatLiesOverOtherScreensAtFirst) {
   for (const Control* control : hidden) EXPECT_FALSE(control->visible());
 }
 
-TEST(PlainLook, KeepsTheShareOfWhatNoSkinPlaces) {
-  Form1 form;
-  form.FitUnplaced();
-  const Rect design = form.carousel.down.place();
-  EXPECT_EQ(design, Rect({1070, 148, 186, 90}));
-  Panel& panel = form.panel(screen::kCarousel);
-  panel.SetPlace({0, 100, 1920, 320});
-  form.FitUnplaced();
-  EXPECT_EQ(form.carousel.down.place(), Rect({1605, 74, 279, 45}));
-  // And a part of a part: the strip's own panel has grown with the screen.
-  EXPECT_EQ(form.carousel.strip_up.place().width, 82 * 1.5F);
-}
-
 }  // namespace
 }  // namespace sonotik

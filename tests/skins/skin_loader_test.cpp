@@ -1,7 +1,6 @@
 #include "skins/skin_loader.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include "fuzz/gif_bytes.h"
 #include "support/jukebox_test.h"
@@ -174,7 +173,8 @@ TEST_F(SkinLoaderTest, PlacesThreeScreensOnceMoreAndWhatNoFilePlaces) {
   }
   // What no file places keeps its share of its panel; what has no panel in a file lies on the
   // screen itself.
-  EXPECT_EQ(form().carousel.back.place().width, 186 * 1.5F);
+  EXPECT_EQ(form().carousel.down.place().left, 1070 * 1.5F);
+  EXPECT_EQ(form().carousel.down.place().width, 186 * 1.5F);
   EXPECT_EQ(form().now_playing.next_song.place(), Rect({0, 0, 1920, 36.5F}));
   EXPECT_EQ(form().album.letters.place(), Rect({0, 0, 1920, 36.5F}));
   EXPECT_EQ(form().album.strip_thumb.place().width, 16.5F / 27);

@@ -109,28 +109,24 @@ TEST(Controls, HoverFollowsTheMouseAndLeavesWithIt) {
 TEST(Controls, WhatIsDraggedEntersMovesLeavesAndDrops) {
   Screen screen;
   std::string told;
-  const auto tell = [&](DragEvent& event) {
-    constexpr const char* kStates[] = {"in", "out", "over"};
-    told += std::string(kStates[static_cast<int>(event.state)]) + " " + event.data.text + "; ";
+  screen.button.on_drag_over = [&](DragEvent& event) {
+    told += std::to_string(static_cast<int>(event.state)) + event.data.text + " ";
     event.effect = event.proposed;
   };
-  screen.button.on_drag_over = tell;
+  screen.button.on_drag_drop = [&](DragEvent& event) {
+    EXPECT_EQ(event.at.x * 100 + event.at.y, 507);
+    told += "dropped";
+  };
   const DragData data{{}, "song"};
-  const auto copy = DropEffect::kCopy;
-  EXPECT_EQ(screen.form.DragMouse({150, 90}, data, copy), DropEffect::kNone);
-  EXPECT_EQ(screen.form.DragMouse({35, 35}, data, copy), copy);
-  screen.form.DragMouse({36, 35}, data, copy);
-  screen.form.DragMouse({150, 90}, data, copy);
-  screen.form.DragMouse({35, 35}, data, copy);
+  const auto copy = DropEffect::kCopy, none = DropEffect::kNone;
+  const std::pair<Point, DropEffect> way[] = {
+      {{150, 90}, none}, {{35, 35}, copy}, {{36, 35}, copy}, {{150, 90}, none}, {{35, 35}, copy}};
+  for (const auto& [at, effect] : way) EXPECT_EQ(screen.form.DragMouse(at, data, copy), effect);
   screen.form.LeaveDrag();
-  EXPECT_EQ(told, "in song; over song; out ; in song; out ; ");
-  EXPECT_EQ(screen.form.DropMouse({35, 35}, data, copy), DropEffect::kNone) << "nobody takes it";
-  Point dropped;
-  screen.button.on_drag_drop = [&](DragEvent& event) { dropped = event.at; };
   screen.form.DropMouse({35, 37}, data, copy);
-  EXPECT_EQ(dropped.x * 100 + dropped.y, 507);
+  EXPECT_EQ(told, "0song 2song 1 0song 1 dropped");
   screen.button.SetEnabled(false);
-  EXPECT_EQ(screen.form.DragMouse({35, 35}, data, copy), DropEffect::kNone);
+  EXPECT_EQ(screen.form.DragMouse({35, 35}, data, copy), none);
 }
 
 TEST(Labels, ShowDoubledAmpersandsOnceAndNoAccessMarks) {
