@@ -85,6 +85,7 @@ TEST_F(AloneTest, ADayOfItsOwnHoldsUntilAnotherSaysOtherwise) {
   EXPECT_EQ(folder.Read("CALENDER/02-01-2024.DAT"), folder.Read("CALENDER/01-15-2024.DAT"));
 }
 
+// Half an hour around each midnight, with all that a month brings.
 TEST_F(AloneTest, AMonthIsNeverSilentForLongerThanTheWait) {
   settings.enable_random_play = true;
   settings.wait_between_tracks = "7";
@@ -95,46 +96,67 @@ TEST_F(AloneTest, AMonthIsNeverSilentForLongerThanTheWait) {
   settings.jingle_path = folder.path() + "\\jingles";
   settings.attract_enabled = true;
   settings.attract_delay = "300";
-  WriteCollection(20);
+  WriteCollection(200);
   folder.Write("jingles/j.wav", "x");
   folder.Write("jingles/j.wav.tag", Sidecar("Us", "Jingle", "", "0:30"));
   folder.Write("pictures/a.jpg", "x");
-  machine.clock.date = {2024, 3, 15};
+  machine.clock.Set({2024, 3, 1}, 23, 50);
   Start();
+  house().settings.attract_path = folder.path() + "\\pictures";
   std::mt19937 draw{99};
   const auto music = folder.native() / "music";
   const auto away = folder.native() / "away";
-  int silence = 0, longest = 0;
-  std::vector<std::string> played;
-  for (int day = 0; day < 30; ++day) {
+  const std::string jingle = folder.path() + "\\jingles\\j.wav";
+  int silence = 0, longest = 0, midnights = 0;
+  Date today{2024, 3, 1};
+  std::string attract = house().settings.attract_path;
+  for (int day = 1; day <= 30; ++day) {
+    machine.clock.Set({2024, 3, day}, 23, 50);
     const bool gone = day % 7 == 3;
     if (gone) std::filesystem::rename(music, away);
-    if (day % 4 == 0) WriteDay("03-" + std::to_string(15 + day % 15) + "-2024", "\\none", "");
-    for (int second = 0; second < 1000; ++second) {
-      // Summer time comes and goes, once the clock is set to yesterday, and hours pass in between.
-      if (second == 500 && day == 16) machine.clock.date.day -= 1;
+    const std::string tomorrow = DateText({2024, 3, day + 1}).replace(2, 1, "-").replace(5, 1, "-");
+    if (day % 4 == 0) WriteDay(tomorrow, "\\day " + std::to_string(day + 1), "");
+    if (day % 8 == 5) folder.Remove("CALENDER/" + tomorrow + ".DAT");
+    for (int second = 0; second < 1800; ++second) {
+      // Summer time comes before midnight, and ends after it; once somebody sets the clock back.
+      if (day == 10 && second == 300) machine.clock.Set({2024, 3, day + 1}, 0, 55);
+      if (day == 20 && second == 900) machine.clock.Set({2024, 3, day}, 23, 5);
+      if (day == 25 && second == 900) machine.clock.Set({2024, 3, day}, 0, 5);
       machine.clock.Add(1000);
       machine.player.Add(1);
       machine.timers.FireDue();
-      const bool playing = machine.player.playing();
-      silence = playing || gone ? 0 : silence + 1;
-      longest = std::max(longest, silence);
-      if (playing && (played.empty() || played.back() != machine.player.file)) {
-        played.push_back(machine.player.file);
+      if (const Date now = machine.clock.Now().date; now != today) {
+        midnights += now.day > today.day;
+        today = now;
+        if (now.day % 4 == 1 && now.day > 1) attract = "\\day " + std::to_string(now.day);
+        EXPECT_EQ(house().settings.attract_path, attract) << day;
       }
+      silence = machine.player.playing() || gone ? 0 : silence + 1;
+      longest = std::max(longest, silence);
       if (draw() % 500 == 0) form().form.Click({640, 400});
     }
     if (gone) std::filesystem::rename(away, music);
-    machine.clock.date.day = machine.clock.date.day % 28 + 1;
-    machine.clock.Add((day == 10 ? 3600 : day == 20 ? 7200 : 60) * 1000);
     ASSERT_TRUE(house().state_timer.enabled());
     ASSERT_FALSE(house().playback.random_in_progress);
   }
+  EXPECT_GE(midnights, 30);
+  EXPECT_EQ(house().boundary.failures(), 0);
   // The wait, the tick that ends the track, and a jingle or a repeat that comes to nothing.
   EXPECT_LE(longest, 2 * 7 + 2);
-  EXPECT_GT(played.size(), 400u);
   EXPECT_EQ(house().queue.count(), 0);
-  EXPECT_GT(std::count(played.begin(), played.end(), folder.path() + "\\jingles\\j.wav"), 50);
+  // None of the last four songs comes again; jingles do, after every few.
+  RecordFile log(folder.path() + "\\" + kRandomHistory, HistoryRecord::kSize);
+  std::vector<std::string> songs;
+  for (int64_t n = 1; n <= log.count(); ++n) {
+    const std::string path =
+        house().catalogue.ReadHistoryRecord(log, n).Trimmed(HistoryRecord::kPath);
+    if (path == jingle) continue;
+    const auto last = songs.end() - std::min<ptrdiff_t>(4, std::ssize(songs));
+    EXPECT_EQ(std::find(last, songs.end(), path), songs.end()) << n;
+    songs.push_back(path);
+  }
+  EXPECT_GT(songs.size(), 800u);
+  EXPECT_GT(static_cast<size_t>(log.count()) - songs.size(), 150u);
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 #ifndef SONOTIK_TESTS_SUPPORT_TEST_MACHINE_H_
 #define SONOTIK_TESTS_SUPPORT_TEST_MACHINE_H_
 
+#include <chrono>
 #include <cmath>
 #include <functional>
 #include <map>
@@ -19,12 +20,25 @@ namespace sonotik {
 class TestClock : public Clock {
  public:
   DateTime Now() const override {
-    const int64_t seconds = start_of_day_ + ms_ / 1000;
-    return {date, static_cast<int>(seconds / 3600 % 24), static_cast<int>(seconds / 60 % 60),
-            static_cast<int>(seconds % 60)};
+    using std::chrono::floor;
+    const std::chrono::seconds time{start_of_day_ + ms_ / 1000};
+    const auto days = floor<std::chrono::days>(time);
+    const std::chrono::year_month_day day =
+        std::chrono::sys_days{std::chrono::year{date.year} / date.month / date.day} + days;
+    const auto seconds = static_cast<int>((time - days).count());
+    return {{int{day.year()}, static_cast<int>(unsigned{day.month()}),
+             static_cast<int>(unsigned{day.day()})},
+            seconds / 3600,
+            seconds / 60 % 60,
+            seconds % 60};
   }
   int64_t Milliseconds() const override { return ms_; }
   void Add(int64_t ms) { ms_ += ms; }
+  // As somebody sets the wall clock; the other one runs on.
+  void Set(Date today, int hour, int minute) {
+    date = today;
+    start_of_day_ = hour * 3600 + minute * 60 - ms_ / 1000;
+  }
 
   Date date{2024, 1, 15};
 
