@@ -56,10 +56,8 @@ void AlbumPages::PaintPage(bool at_random) {
     slots_[static_cast<size_t>(slot) + 1] = {};
   }
   for (; slot <= covers; ++slot) HideCover(slot);
-  if (settings_.use_animated_covers) {
-    animation_.Animate(form1_.panel(screen::kAlbum), 1, animation_.Drawn(settings_.animation_style),
-                       settings_.cover_animation_speed, kCoverAnimationSteps);
-  }
+  animation_.RevealCovers(settings_, {&form1_.panel(screen::kAlbum)},
+                          settings_.cover_animation_speed);
 }
 
 void AlbumPages::FillSlot(int slot, const AlbumRecord& record, long number) {
@@ -138,7 +136,7 @@ void AlbumPages::ShowSource(CatalogueSource source) {
   cursor_.source = source;
   read_albums3();
   // 110 is no style: the page just shows.
-  if (settings_.use_animated_covers) {
+  if (settings_.use_animated_covers && form1_.panel(screen::kAlbum).showing()) {
     animation_.Animate(form1_.panel(screen::kAlbum), 1, 110, 0, kCoverAnimationSteps);
   }
 }

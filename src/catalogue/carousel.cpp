@@ -7,13 +7,16 @@
 
 namespace sonotik {
 
-Carousel::Carousel(Catalogue& catalogue, CatalogueCursor& cursor, const CoverLayout& layout,
-                   const CoverFinder& covers, AlbumPages& pages, CarouselScreen& screen)
-    : catalogue_(catalogue),
+Carousel::Carousel(const Settings& settings, Catalogue& catalogue, CatalogueCursor& cursor,
+                   const CoverLayout& layout, const CoverFinder& covers, AlbumPages& pages,
+                   CoverAnimation& animation, CarouselScreen& screen)
+    : settings_(settings),
+      catalogue_(catalogue),
       cursor_(cursor),
       layout_(layout),
       covers_(covers),
       pages_(pages),
+      animation_(animation),
       screen_(screen) {}
 
 void Carousel::read_artists() {
@@ -56,9 +59,25 @@ void Carousel::read_artists() {
   }
 }
 
+void Carousel::Carousel_show() {
+  read_artists();
+  Reveal();
+}
+
 void Carousel::Step(int direction) {
   cursor_.source = CatalogueSource::kRecords;
+  const long before = cursor_.position();
   pages_.StepWithUndo(direction, [this] { read_artists(); });
+  // Last: it lets events run, and one of them may step on.
+  if (cursor_.position() != before) Reveal();
+}
+
+void Carousel::Reveal() {
+  std::vector<Control*> covers;
+  for (CarouselColumn& column : screen_.columns) {
+    for (PictureBox& cover : column.covers) covers.push_back(&cover);
+  }
+  animation_.RevealCovers(settings_, covers, kTileDelay);
 }
 
 }  // namespace sonotik

@@ -11,8 +11,9 @@ constexpr char kEnding[] = ".cvr";
 
 }  // namespace
 
-Genres::Genres(const std::string& app_path, CatalogueCursor& cursor, AlbumPages& pages, Form1& form)
-    : cursor_(cursor), pages_(pages), form1_(form) {
+Genres::Genres(const std::string& app_path, const Settings& settings, CatalogueCursor& cursor,
+               AlbumPages& pages, CoverAnimation& animation, Form1& form)
+    : settings_(settings), cursor_(cursor), pages_(pages), animation_(animation), form1_(form) {
   files_.SetFolder(app_path + "\\genres");
 }
 
@@ -48,6 +49,7 @@ void Genres::StepScreen(int direction) {
   if (direction < 0 && list_top_ > 0) list_top_ -= kScreenPage;
   if (direction > 0 && list_top_ + kScreenPage < files_.count()) list_top_ += kScreenPage;
   show_genres();
+  Reveal();
 }
 
 void Genres::StepBar(int direction) {
@@ -55,6 +57,14 @@ void Genres::StepBar(int direction) {
   // Without an end: the bar scrolls on to places without a genre, which is meant.
   if (direction > 0) bar_top_ += kBarPage;
   genre_scroll_show();
+  Reveal();
+}
+
+void Genres::Reveal() {
+  std::vector<Control*> tiles;
+  for (Label& label : form1_.genre.labels) tiles.push_back(&label);
+  for (size_t i = 1; i <= kBarPage; ++i) tiles.push_back(&form1_.genre_buttons.buttons[i]);
+  animation_.RevealCovers(settings_, tiles, kTileDelay);
 }
 
 void Genres::ShowGenre(const std::string& caption) {

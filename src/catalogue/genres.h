@@ -11,11 +11,14 @@ namespace sonotik {
 
 class Genres {
  public:
-  Genres(const std::string& app_path, CatalogueCursor& cursor, AlbumPages& pages, Form1& form);
+  Genres(const std::string& app_path, const Settings& settings, CatalogueCursor& cursor,
+         AlbumPages& pages, CoverAnimation& animation, Form1& form);
 
   // Paint the screen and the bar, with the genres as they are in the folder now.
   void show_genres();
   void genre_scroll_show();
+  // Reveals what shows of them, with animated covers. Lets events run.
+  void Reveal();
   // A page of genres up (-1) or down (1).
   void StepScreen(int direction);
   void StepBar(int direction);
@@ -28,8 +31,10 @@ class Genres {
   void ShowAlbums();
   std::string CaptionOf(int file) const;
 
+  const Settings& settings_;
   CatalogueCursor& cursor_;
   AlbumPages& pages_;
+  CoverAnimation& animation_;
   Form1& form1_;
   FileList files_{"*.cvr"};
   int list_top_ = 0;

@@ -88,7 +88,9 @@ std::string HistoryView::PathOfRecord(int64_t number) {
 void HistoryView::history_play(int64_t history_path) {
   const std::string path = PathOfRecord(history_path);
   // Of a damaged log: nobody shall pay for a track without a file.
-  if (!path.empty()) play_options_.show_play_options(path, screen::kHistory);
+  if (path.empty()) return;
+  play_options_.show_play_options(path, screen::kHistory);
+  play_options_.Reveal();
 }
 
 bool HistoryView::Filled(int row) const {

@@ -7,12 +7,14 @@
 namespace sonotik {
 
 PlayOptions::PlayOptions(const Settings& settings, const CatalogueCursor& cursor,
-                         const CoverFinder& covers, const Credits& credits, TagReader& tags,
-                         const TagFields& fields, Form1& form)
+                         const CoverFinder& covers, const Credits& credits,
+                         CoverAnimation& animation, TagReader& tags, const TagFields& fields,
+                         Form1& form)
     : settings_(settings),
       cursor_(cursor),
       covers_(covers),
       credits_(credits),
+      animation_(animation),
       tags_(tags),
       fields_(fields),
       form1_(form),
@@ -67,6 +69,12 @@ void PlayOptions::ShowPrices() {
     // As the list's item has it; nothing chosen is no number.
     label.SetCaption((price > 0 ? NumberCaption(price) : "") + way.text);
   }
+}
+
+void PlayOptions::Reveal() {
+  Panel& panel = form1_.panel(screen::kPlayOptions);
+  // From the left in one step, whatever the covers' style: a guest waits for his commands.
+  if (settings_.use_animated_covers && panel.showing()) animation_.Animate(panel, 1, 0, 0, 1);
 }
 
 void PlayOptions::Close() {

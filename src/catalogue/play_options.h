@@ -8,6 +8,7 @@
 #include "access/credits.h"
 #include "catalogue/catalogue.h"
 #include "catalogue/cover_picture.h"
+#include "skins/cover_animation.h"
 #include "tags/tag_fields.h"
 #include "tags/tag_reader.h"
 
@@ -16,7 +17,8 @@ namespace sonotik {
 class PlayOptions {
  public:
   PlayOptions(const Settings& settings, const CatalogueCursor& cursor, const CoverFinder& covers,
-              const Credits& credits, TagReader& tags, const TagFields& fields, Form1& form);
+              const Credits& credits, CoverAnimation& animation, TagReader& tags,
+              const TagFields& fields, Form1& form);
 
   // What the queue says of a path and of itself.
   std::function<bool(const std::string& path)> is_queued = [](const std::string&) { return false; };
@@ -24,6 +26,8 @@ class PlayOptions {
 
   // Opens the screen for a track. `calling_screen` is the panel to return to.
   void show_play_options(const std::string& path, size_t calling_screen);
+  // Reveals it, with animated covers. Lets events run, so it comes last: a touch may already play.
+  void Reveal();
   // Back to the screen that called.
   void Close();
 
@@ -39,6 +43,7 @@ class PlayOptions {
   const CatalogueCursor& cursor_;
   const CoverFinder& covers_;
   const Credits& credits_;
+  CoverAnimation& animation_;
   TagReader& tags_;
   const TagFields& fields_;
   Form1& form1_;

@@ -54,6 +54,7 @@ void Top20::ChooseRow(int row) {
   command(Top20Command::kPlayNext).SetVisible(settings_.play_next);
   command(Top20Command::kPlayNow).SetVisible(settings_.play_it_now);
   play_options_.show_play_options(chosen_path_, screen::kTop20);
+  play_options_.Reveal();
 }
 
 }  // namespace sonotik

@@ -34,10 +34,7 @@ void TrackList::Open(const std::string& album_path) {
   if (FolderExists(album_files_.folder())) album_files_.Refresh();
   track_List2(album_path);
   // Last: it lets events run, and one of them may open another album.
-  if (settings_.use_animated_covers) {
-    animation_.Animate(screen_.cover, 1, animation_.Drawn(settings_.animation_style),
-                       settings_.cover_animation_speed, kCoverAnimationSteps);
-  }
+  animation_.RevealCovers(settings_, {&screen_.cover}, settings_.cover_animation_speed);
 }
 
 void TrackList::show_album(const std::string& path) {

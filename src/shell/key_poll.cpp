@@ -146,8 +146,8 @@ void KeyPoll::PollFromAnywhere() {
   On(kOptions, [this] { menu_.EnterOptions(); });
   On(kDecades, [this] { menu_.Show(screen::kDecades); });
   On(kCarouselView, [this] {
-    house_.carousel.Carousel_show();
     menu_.Show(screen::kCarousel);
+    house_.carousel.Carousel_show();
   });
   On(kRandomOnOff, [this] { ToggleRandom(); });
   On(kPowerOff, [this] { menu_.hooks.power_down(); });

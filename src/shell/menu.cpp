@@ -88,7 +88,8 @@ void Menu::OpenGenres() {
   Form1& form = house_.form1;
   if (house_.skins.screens.genre_style() < 1) {
     hooks.show_genres();
-    return form.ShowScreen(screen::kGenre);
+    form.ShowScreen(screen::kGenre);
+    return house_.genres.Reveal();
   }
   // The skin has its own captions on the bar.
   house_.genres.genre_scroll_show();
@@ -96,6 +97,7 @@ void Menu::OpenGenres() {
   form.menu.SetVisible(false);
   form.genre_bar.SetVisible(true);
   form.ShowScreen(screen::kAlbum);
+  house_.genres.Reveal();
 }
 
 void Menu::Back() {

@@ -144,6 +144,7 @@ void Navigation::PressTrackRow(int row) {
     house_.form1.panel(screen::kPlayOptions).SetVisible(false);
     house_.pin.Ask(screen::kPlayOptions);
   }
+  house_.play_options.Reveal();
 }
 
 void Navigation::DoubleClickTrackRow(int row) {

@@ -124,6 +124,7 @@ void SearchWays::SearchFrom(size_t screen_index) {
 void SearchWays::PressRow(int row) {
   if (!house_.search.ChooseRow(row)) return;
   house_.play_options.show_play_options(house_.search.ChosenPath(), screen::kSearchResults);
+  house_.play_options.Reveal();
 }
 
 void SearchWays::PressCommand(ResultCommand command) {

@@ -1,5 +1,7 @@
 #include "skins/cover_animation.h"
 
+#include <algorithm>
+
 namespace sonotik {
 namespace {
 
@@ -62,35 +64,52 @@ Region RevealedRegion(int style, int i, int n, float width, float height) {
 
 bool CoverAnimation::Animate(Control& target, int show, int style, int delay_ms, int steps) {
   target.SetVisible(true);
-  target.SetRegion({});
-  for (Run* run = run_; run != nullptr; run = run->outer) {
-    if (&run->target == &target) run->overtaken = true;
+  return AnimateTogether({&target}, show, style, delay_ms, steps);
+}
+
+bool CoverAnimation::AnimateTogether(const std::vector<Control*>& targets, int show, int style,
+                                     int delay_ms, int steps) {
+  for (Control* target : targets) {
+    target->SetRegion({});
+    for (Run* run = run_; run != nullptr; run = run->outer) {
+      if (std::ranges::count(run->targets, target) > 0) run->overtaken = true;
+    }
   }
-  if (style < 0 || style >= kRandomStyle || steps <= 0) return false;
-  Run run{target, run_};
+  if (style < 0 || style >= kRandomStyle || steps <= 0 || targets.empty()) return false;
+  Run run{targets, run_};
   run_ = &run;
   const struct Leave {
     Run*& current;
     Run* outer;
     ~Leave() { current = outer; }
   } leave{run_, run.outer};
-  const float width = target.place().width;
-  const float height = target.place().height;
   for (int i = 0; i <= steps; ++i) {
-    Region region = RevealedRegion(style, i, steps, width, height);
-    if (show == 0) region = Without({{0, 0, width, height}}, region);
-    target.SetRegion(std::move(region));
+    for (Control* target : targets) {
+      const auto [left, top, width, height] = target->place();
+      Region region = RevealedRegion(style, i, steps, width, height);
+      if (show == 0) region = Without({{0, 0, width, height}}, region);
+      target->SetRegion(std::move(region));
+    }
     if (delay_ms > 0) {
       events_.WaitForEvents(delay_ms);
     } else {
       events_.PumpEvents();
     }
     if (run.overtaken) return true;
-    if (!target.visible()) break;
+    if (std::ranges::none_of(targets, &Control::showing)) break;
   }
-  // Revealed it is whole again, whatever size it takes from here on.
-  if (show != 0 || !target.visible()) target.SetRegion({});
+  // Revealed they are whole again, whatever size they take from here on.
+  for (Control* target : targets) {
+    if (show != 0 || !target->visible()) target->SetRegion({});
+  }
   return true;
+}
+
+void CoverAnimation::RevealCovers(const Settings& settings, std::vector<Control*> covers,
+                                  int delay_ms) {
+  if (!settings.use_animated_covers) return;
+  std::erase_if(covers, [](const Control* cover) { return !cover->showing(); });
+  AnimateTogether(covers, 1, Drawn(settings.animation_style), delay_ms, kCoverAnimationSteps);
 }
 
 }  // namespace sonotik

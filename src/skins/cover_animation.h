@@ -1,8 +1,11 @@
-// Reveals or hides a control step by step, by a region that grows or shrinks: covers, the track
-// list, attract pictures.
+// Reveals or hides controls step by step, by regions that grow or shrink: covers, the track list,
+// genres, attract pictures.
 #ifndef SONOTIK_SKINS_COVER_ANIMATION_H_
 #define SONOTIK_SKINS_COVER_ANIMATION_H_
 
+#include <vector>
+
+#include "config/settings.h"
 #include "platform/event_loop.h"
 #include "platform/random_source.h"
 #include "widgets/control.h"
@@ -12,6 +15,8 @@ namespace sonotik {
 // The last style of the operator's lists: each caller draws one of those before it.
 inline constexpr int kRandomStyle = 14;
 inline constexpr int kCoverAnimationSteps = 33;
+// Genres and the carousel's covers have a speed of their own, in milliseconds a step.
+inline constexpr int kTileDelay = 110;
 
 class CoverAnimation {
  public:
@@ -22,6 +27,13 @@ class CoverAnimation {
   // whose target is animated anew, or hidden, meanwhile ends there. A style beyond the list, or no
   // steps at all, shows the control at once and gives false.
   bool Animate(Control& target, int show, int style, int delay_ms, int steps);
+  // The same for several at once, each in its own place; those that are hidden stay hidden.
+  bool AnimateTogether(const std::vector<Control*>& targets, int show, int style, int delay_ms,
+                       int steps);
+
+  // Reveals by the operator's style what shows of these, if he has covers animated. A screen that
+  // is painted behind another stays there.
+  void RevealCovers(const Settings& settings, std::vector<Control*> covers, int delay_ms);
 
   // A style of the list with "Random" drawn.
   int Drawn(int style) {
@@ -33,9 +45,9 @@ class CoverAnimation {
  private:
   // An animation that goes on, and those it was entered from.
   struct Run {
-    Control& target;
+    const std::vector<Control*>& targets;
     Run* outer;
-    bool overtaken = false;  // its target is animated anew
+    bool overtaken = false;  // one of its targets is animated anew
   };
 
   EventLoop& events_;

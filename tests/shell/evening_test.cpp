@@ -105,6 +105,22 @@ TEST_F(EveningTest, APausedTrackNeverEndsAndDropsPlayNow) {
   EXPECT_EQ(Playing(), tracks[2]);
 }
 
+TEST_F(EveningTest, ATouchWhileThePlayOptionsAppearPlaysAndPaysOnce) {
+  settings.use_animated_covers = true;
+  StartPaid(5);
+  Click(form().album.covers[0].cover);
+  const PlayOptionsScreen& screen = form().play_options;
+  machine.events.on_pump = [&] {
+    if (screen.panel.visible()) form().form.Click(Middle(screen.play_now));
+  };
+  Click(form().track_list.rows[1].title);
+  machine.events.on_pump = [] {};
+  EXPECT_EQ(Playing(), tracks[1]);
+  EXPECT_EQ(house().credits.count(), 3);
+  EXPECT_EQ(Plays() + Queued().size(), 1U);
+  EXPECT_FALSE(screen.panel.visible() || screen.panel.region());
+}
+
 TEST_F(EveningTest, AButtonThatStartsAMissingFileLeavesTheTickOffUntilAStartSucceeds) {
   StartPaid(5);
   Choose(folder.path() + "\\gone.wav");

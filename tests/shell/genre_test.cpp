@@ -97,6 +97,37 @@ TEST_F(GenreTest, TheBarHidesTheFirstGenreAndScrollsBeyondTheLast) {
   EXPECT_TRUE(form().menu.visible());
 }
 
+TEST_F(GenreTest, AnimatedTilesAppearTogetherAndLeaveTheOtherButtonsAlone) {
+  settings.use_animated_covers = true;
+  WriteGenres(3);
+  Start();
+  const Label& tile = form().genre.labels[2];
+  std::vector<float> widths;
+  machine.events.on_pump = [&] { widths.push_back(tile.region()->at(0).width); };
+  machine.events.waited = 0;
+  OpenScreen();
+  EXPECT_EQ(machine.events.waited, 34 * 110);
+  ASSERT_EQ(widths.size(), 34U);
+  for (size_t i = 0; i < 34; ++i) {
+    EXPECT_NEAR(widths[i], tile.place().width * static_cast<float>(i) / 33, 0.1);
+  }
+  EXPECT_EQ(OnScreen().size(), 4U);
+  // A guest who has seen enough goes back, and the rest of it is left out.
+  int steps = 0;
+  machine.events.on_pump = [&] {
+    EXPECT_FALSE(form().genre.back.region());
+    if (++steps == 9) Click(form().genre.back);
+  };
+  OpenScreen();
+  machine.events.on_pump = [] {};
+  EXPECT_EQ(Shown(), Screens{screen::kAlbum});
+  EXPECT_LE(steps, 9 + 34);  // the album page that he went to is revealed, too
+  EXPECT_FALSE(tile.region());
+  OpenBar();
+  Click(Bar(8));
+  EXPECT_TRUE(OnBar().empty());
+}
+
 TEST_F(GenreTest, AllGenresOnTheBarLeavesAnEmptyGenreOfThatName) {
   for (const char* name : {"Blues", "Rock"}) WriteGenre(name);
   Start();
