@@ -17,13 +17,14 @@ long allocations = 0;
 
 }  // namespace
 
-void* operator new(size_t size) {
+// Not inlined: beside a call of the other one the compiler would see half a pair.
+[[gnu::noinline]] void* operator new(size_t size) {
   ++allocations;
   if (void* memory = std::malloc(size)) return memory;
   throw std::bad_alloc();
 }
-void operator delete(void* memory) noexcept { std::free(memory); }
-void operator delete(void* memory, size_t) noexcept { std::free(memory); }
+[[gnu::noinline]] void operator delete(void* memory) noexcept { std::free(memory); }
+[[gnu::noinline]] void operator delete(void* memory, size_t) noexcept { std::free(memory); }
 
 namespace sonotik {
 namespace {
