@@ -24,7 +24,8 @@ void FactDisplay::StartSongFacts() {
     row_ = row;
     index_ = 0;
     shown_seconds_ = spacing_seconds_ = 0;
-    return Show(table_.rows()[row].facts[0]);
+    const std::string& fact = table_.rows()[row].facts[0];
+    return fact.empty() ? Hide() : Show(fact);
   }
   Hide();
 }

@@ -10,14 +10,16 @@ class FactDisplayTest : public JukeboxTest {
  protected:
   FactDisplayTest() {
     folder.Write("songfacts.dat", FactBytes("ADA & Co", "Other", {"no", "", "", "", ""}) +
+                                      FactBytes("Ada & Co", "Dusk", {"", "2", "", "", ""}) +
                                       FactBytes("ada & co", "DAWN", {"1", "2", "", "4", "5"}));
     dawn = WriteTrack("Day", "1.wav", "Ada & Co", "Dawn");
     noon = WriteTrack("Day", "2.wav", "Ada & Co", "Noon");
     other = WriteTrack("Day", "3.wav", "Bob", "Dawn");
+    dusk = WriteTrack("Day", "4.wav", "Ada & Co", "Dusk");
   }
   // The fact that shows, "-" for none.
   std::string Fact() { return form().song_fact.visible() ? form().song_fact.caption() : "-"; }
-  std::string dawn, noon, other;
+  std::string dawn, noon, other, dusk;
 };
 
 TEST_F(FactDisplayTest, FactsAreSpacedOverTheTrackAndAnEmptyOneUsesItsTurn) {
@@ -46,6 +48,12 @@ TEST_F(FactDisplayTest, ATitleWithoutFactsHidesThemAndAnArtistWithoutLeavesThemT
   EXPECT_EQ(Fact(), "1");
   Choose(noon);
   EXPECT_EQ(Fact(), "-");
+  Choose(dawn);
+  // Nothing of the one before is told beside a song whose first fact is empty.
+  Choose(dusk);
+  EXPECT_EQ(Fact(), "-");
+  Advance(7);
+  EXPECT_EQ(Fact(), "2");
   Choose(dawn);
   Choose(other);
   EXPECT_EQ(Fact(), "1");
