@@ -85,6 +85,41 @@ TEST_F(AloneTest, ADayOfItsOwnHoldsUntilAnotherSaysOtherwise) {
   EXPECT_EQ(folder.Read("CALENDER/02-01-2024.DAT"), folder.Read("CALENDER/01-15-2024.DAT"));
 }
 
+TEST_F(AloneTest, AnyFolderMayBeMissingEmptyOrAFileAndTheMusicGoesOn) {
+  settings.enable_random_play = true;
+  settings.wait_between_tracks = "2";
+  settings.enable_jingles = true;
+  settings.jingle_song_count = 0;
+  settings.attract_enabled = true;
+  settings.now_playing_wait = settings.attract_delay = "3";
+  settings.animation_amount = "2";
+  WriteCollection(3);
+  folder.Write("file", "x");
+  WriteDay("01-16-2024", "", "Gone");
+  for (const char* name : {"", "\\", "gone", "file", "file\\in it", "skins"}) {
+    for (const bool by_genre : {false, true}) {
+      machine.clock.Set({2024, 1, 15}, 23, 59);
+      Start();
+      Settings& now = house().settings;
+      now.attract_path = now.jingle_path = *name == 0 ? name : folder.path() + "\\" + name;
+      now.random_from_genres = by_genre;
+      house().lists.selected_genres = {name};
+      int heard = 0;
+      for (int second = 0; second < 120; ++second) {
+        Advance(1);
+        heard += machine.player.playing();
+      }
+      // A round in two is a jingle's, and comes to nothing.
+      EXPECT_EQ(heard > 60, !by_genre) << name;
+      EXPECT_EQ(house().boundary.failures(), 0) << name;
+      house().engine.MediaStop();
+      EXPECT_EQ(now.attract_path, "");
+      EXPECT_EQ(now.current_skin, "Gone");
+      EXPECT_TRUE(house().state_timer.enabled() && house().timer1.enabled());
+    }
+  }
+}
+
 // Half an hour around each midnight, with all that a month brings.
 TEST_F(AloneTest, AMonthIsNeverSilentForLongerThanTheWait) {
   settings.enable_random_play = true;
