@@ -6,6 +6,9 @@ namespace sonotik {
 namespace {
 
 constexpr int kStrips = 8;
+// Who turns pages faster than they appear enters an animation from the wait of another, and none of
+// these returns before the innermost does: without a bound that is the end of the stack.
+constexpr int kMostNested = 8;
 
 // From the middle of the control, this part of its width and height.
 Rect Centred(float width, float height, float across, float down) {
@@ -69,13 +72,15 @@ bool CoverAnimation::Animate(Control& target, int show, int style, int delay_ms,
 
 bool CoverAnimation::AnimateTogether(const std::vector<Control*>& targets, int show, int style,
                                      int delay_ms, int steps) {
-  for (Control* target : targets) {
-    target->SetRegion({});
-    for (Run* run = run_; run != nullptr; run = run->outer) {
+  for (Control* target : targets) target->SetRegion({});
+  int nested = 0;
+  for (Run* run = run_; run != nullptr; run = run->outer, ++nested) {
+    for (Control* target : targets) {
       if (std::ranges::count(run->targets, target) > 0) run->overtaken = true;
     }
   }
-  if (style < 0 || style >= kRandomStyle || steps <= 0 || targets.empty()) return false;
+  if (nested >= kMostNested || targets.empty()) return false;
+  if (style < 0 || style >= kRandomStyle || steps <= 0) return false;
   Run run{targets, run_};
   run_ = &run;
   const struct Leave {

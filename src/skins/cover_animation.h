@@ -24,8 +24,9 @@ class CoverAnimation {
 
   // `show` 1 reveals, 0 hides. Each of the steps 0 to `steps` takes `delay_ms` and lets events run,
   // also without a delay, so the caller waits that long and may be entered again: an animation
-  // whose target is animated anew, or hidden, meanwhile ends there. A style beyond the list, or no
-  // steps at all, shows the control at once and gives false.
+  // whose target is animated anew, or hidden, meanwhile ends there. A style beyond the list, no
+  // steps at all, or too many animations that wait for this one show the control at once and give
+  // false.
   bool Animate(Control& target, int show, int style, int delay_ms, int steps);
   // The same for several at once, each in its own place; those that are hidden stay hidden.
   bool AnimateTogether(const std::vector<Control*>& targets, int show, int style, int delay_ms,

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "forms/Form1.h"
 #include "support/test_machine.h"
 
@@ -69,6 +71,24 @@ TEST_F(AnimationTest, EnteredAgainTheInnerOneEndsItAndAHiddenTargetStaysHidden) 
   animation.Animate(panel(), 1, 0, 0, 4);
   EXPECT_FALSE(panel().visible());
   EXPECT_FALSE(panel().region());
+}
+
+TEST_F(AnimationTest, FingersThatNeverPauseNestItOnlySoDeepAndFindThePageWholeInTheEnd) {
+  int depth = 0;
+  int deepest = 0;
+  int touches = 200;
+  machine.events.on_pump = [&] {
+    if (touches == 0) return;
+    --touches;
+    deepest = std::max(deepest, ++depth);
+    animation.Animate(panel(), 1, 0, 110, kCoverAnimationSteps);
+    --depth;
+  };
+  animation.Animate(panel(), 1, 0, 110, kCoverAnimationSteps);
+  EXPECT_EQ(touches, 192);
+  EXPECT_EQ(deepest, 8);
+  EXPECT_FALSE(panel().region());
+  EXPECT_FALSE(animation.running());
 }
 
 TEST_F(AnimationTest, HiddenItIsGoneForTheFingerUntilItIsShownAnew) {
