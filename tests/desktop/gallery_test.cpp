@@ -6,26 +6,16 @@
 #include <QImage>
 #include <QPainter>
 #include <memory>
-#include <tuple>
 #include <vector>
 
 #include "desktop/painter_canvas.h"
 #include "support/temp_folder.h"
-#include "widgets/Slider.h"
 #include "widgets/lvButtons_H.h"
 
 namespace sonotik {
 namespace {
 
 constexpr int kWidth = 1180, kHeight = 690;
-
-// Remembers where the last text stood.
-class TextPlace : public PainterCanvas {
- public:
-  using PainterCanvas::PainterCanvas;
-  void DrawText(const std::string&, const Rect& rect, const TextStyle&) override { text = rect; }
-  Rect text;
-};
 
 class Gallery : public testing::Test {
  protected:
@@ -123,23 +113,13 @@ TEST_F(Gallery, EveryStyleShowsEveryStateByItself) {
   }
 }
 
-TEST_F(Gallery, EveryShapeShowsTheWallWhereNoPressFindsItAndMovesItsTextWhenHeld) {
-  QImage paper(9, 9, QImage::Format_RGB32);
-  QPainter painter(&paper);
-  TextPlace texts(painter, pictures, form.place(), 1);
+TEST_F(Gallery, EveryShapeShowsTheWallWhereNoPressFindsIt) {
   for (int style = 0; style < 8; ++style) {
     for (int shape = 0; shape < 9; ++shape) {
       lvButtons_H& button = Button("Play||Now", Rgb(150, 44, 60));
       button.SetImage(shape > 6 ? Picture("star.png") : "");
       button.SetBackStyle(style);
       button.SetShape(shape);
-      button.Paint(texts);
-      const Rect idle = texts.text;
-      button.MouseDown({{59, 34}});
-      button.Paint(texts);
-      // From the ellipse on only down.
-      EXPECT_EQ(texts.text, idle.MovedBy(shape < 4 ? 1 : 0, 1)) << style << " " << shape;
-      button.MouseUp({{59, 34}}, true);
       button.SetCapStyle(style % 3);
     }
   }
@@ -152,60 +132,6 @@ TEST_F(Gallery, EveryShapeShowsTheWallWhereNoPressFindsItAndMovesItsTextWhenHeld
       const QRgb pixel = part.pixel(static_cast<int>(at.x * 2), static_cast<int>(at.y * 2));
       EXPECT_LT(qRed(pixel), 60) << i << " at " << at.x << "," << at.y;
     }
-  }
-}
-
-TEST_F(Gallery, PicturesStandWhereTheyAreAlignedAndPressesChangeCutOnes) {
-  for (int look = 0; look < 30; ++look) {
-    lvButtons_H& button = Button("Rock && Roll", Rgb(52, 60, 96));
-    button.SetBackStyle(back_style::kGlass);
-    button.SetImage(Picture("star.png"));
-    button.SetImgAlign(look / 5);
-    button.SetImgSize(look % 5);
-  }
-  for (int effect = 0; effect < 9; ++effect) {
-    lvButtons_H& button = Button("", Rgb(0, 0, 0));
-    button.SetImage(Picture("star.png"));
-    button.SetShape(8);
-    button.SetCustomClick(effect);
-    button.MouseDown({{59, 34}});
-  }
-  const QImage image = Paint("pictures");
-  ExpectAllDiffer(image, 0, 30);
-  ExpectAllDiffer(image, 30, 9);
-}
-
-TEST_F(Gallery, SlidersShowHowFarTheyAreLyingAndStanding) {
-  const QColor amber(255, 184, 77), grey(50, 50, 60), white(Qt::white);
-  for (const auto& [name, width, color] : {std::tuple{"track.png", 200, grey},
-                                           {"progress.png", 200, amber},
-                                           {"knob.png", 20, white}}) {
-    QImage picture(width, 30, QImage::Format_RGB32);
-    picture.fill(color);
-    Save(picture, name);
-  }
-  Slider plain, standing, skinned;
-  form.Add(plain, {20, 20, 200, 40});
-  form.Add(standing, {260, 20, 40, 160});
-  form.Add(skinned, {20, 100, 10, 10});
-  standing.SetPosition(1);
-  skinned.SetPictureBack(Picture("track.png"));
-  skinned.SetPictureProgress(Picture("progress.png"));
-  skinned.SetBar(Picture("knob.png"));
-  EXPECT_EQ(skinned.place(), (Rect{20, 100, 200, 30}));
-  for (Slider* slider : {&plain, &standing, &skinned}) {
-    slider->SetColors(Rgb(50, 50, 60), Rgb(255, 184, 77), kWhite);
-    slider->SetValue(70);
-  }
-  const QImage image = Paint("sliders");
-  for (const auto& [x, y, color] : {std::tuple{100, 40, amber},
-                                    {200, 40, grey},
-                                    {280, 170, amber},
-                                    {280, 40, grey},
-                                    {60, 115, amber},
-                                    {20 + 126 + 10, 115, white},
-                                    {200, 115, grey}}) {
-    EXPECT_EQ(image.pixelColor(2 * x, 2 * y), color) << x << ", " << y;
   }
 }
 

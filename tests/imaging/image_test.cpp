@@ -48,22 +48,6 @@ void ExpectMoved(const std::optional<cImage>& made, const cImage& image, int wid
   }
 }
 
-TEST(Images, AreMadeInFourDepthsAndInSizesThatCanBe) {
-  const struct {
-    int width, height, bit_count;
-    size_t row;
-  } cases[] = {{5, 3, 24, 16}, {5, 3, 8, 8},   {9, 2, 4, 8},        {33, 2, 1, 8},
-               {5, 3, 0, 0},   {5, 3, 2, 0},   {5, 3, 16, 0},       {5, 3, 32, 0},
-               {0, 3, 24, 0},  {5, -1, 24, 0}, {65536, 1025, 1, 0}, {INT_MAX, INT_MAX, 24, 0}};
-  for (const auto& c : cases) {
-    cImage image;
-    image.Create(2, 2, 8);
-    EXPECT_EQ(image.Create(c.width, c.height, c.bit_count), c.row > 0) << c.bit_count;
-    EXPECT_EQ(image.BytesPerScanLine(), c.row);
-    EXPECT_EQ(image.hDC().bytes.size(), c.row * static_cast<size_t>(image.Height()));
-  }
-}
-
 TEST(Images, TakeTheirDepthFromThePictureOrFromItsColors) {
   const std::vector<uint8_t> bytes(64, 0xFF);
   PixelView picture;
@@ -174,24 +158,6 @@ TEST(Images, ScaledColorsAreTheMeanOfWhatTheyCover) {
     for (size_t x = 0; x < c.blues.size(); ++x) {
       EXPECT_EQ(ColorAt(made->hDC(), static_cast<int>(x), 0) & 255, c.blues[x]) << c.width;
     }
-  }
-}
-
-TEST(Images, TurnGreyByTheWeightsOfTheEyeAndKeepTheirDepth) {
-  const std::vector<Color> colors = {Rgb(255, 0, 0), Rgb(0, 255, 0), Rgb(0, 0, 255), kWhite};
-  for (const int depth : {4, 8, 24}) {
-    cImage numbered;
-    numbered.Create(4, 1, 8, colors);
-    for (uint8_t i = 0; i < 4; ++i) numbered.DIBitsPtr()[i] = i;
-    cImage image;
-    image.CopyHDC(numbered.hDC(), 4, 1, depth);
-    const cImage grey = image.Greyscale();
-    EXPECT_EQ(grey.BitCount(), depth);
-    int x = 0;
-    for (const unsigned wanted : {76U, 150U, 29U, 255U}) {
-      EXPECT_EQ(ColorAt(grey.hDC(), x++, 0), wanted * 0x010101) << depth;
-    }
-    EXPECT_EQ(ColorAt(image.hDC(), 0, 0), 0xFF0000U);
   }
 }
 

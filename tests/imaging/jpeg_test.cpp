@@ -1,19 +1,14 @@
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <array>
-#include <climits>
 #include <functional>
 
 #include "files/runtime_failure.h"
 #include "imaging/cImage.h"
 #include "imaging/cJpeg.h"
-#include "imaging/form_image.h"
-#include "support/temp_folder.h"
 
 namespace sonotik {
 namespace {
-using testing::StartsWith;
 
 std::string FailureOf(const std::function<void()>& work) {
   try {
@@ -111,23 +106,6 @@ TEST(Jpegs, RefuseValuesInTheirOwnWords) {
   EXPECT_EQ(huffman({0, 3}, 5), "Bad Huffman Table");
 }
 
-// That they are those of the quality shows beside another encoder's.
-TEST(Jpegs, TakeAQualityFrom1To100AndTheTablesOfTheTimeOfSampling) {
-  const cImage image = Dark();
-  cJpeg jpeg;
-  for (const int ignored : {0, 101, -1, INT_MAX}) jpeg.SetQuality(ignored);
-  EXPECT_EQ(jpeg.Quality(), 75);
-  jpeg.SampleHDC(image.hDC(), 20, 20);
-  const std::string file = jpeg.FileBytes();
-  for (const int later : {1, 100}) {
-    jpeg.SetQuality(later);
-    EXPECT_EQ(jpeg.Quality(), later);
-    EXPECT_EQ(jpeg.FileBytes(), file);
-  }
-  jpeg.SampleHDC(image.hDC(), 20, 20);
-  EXPECT_NE(jpeg.FileBytes(), file);
-}
-
 TEST(Jpegs, SampleNothingThatIsTooLargeOrNotThere) {
   const cImage image = Dark();
   for (const auto& [width, height] :
@@ -140,39 +118,6 @@ TEST(Jpegs, SampleNothingThatIsTooLargeOrNotThere) {
   cJpeg jpeg;
   EXPECT_FALSE(jpeg.SampleHDC(cImage().hDC(), 20, 20));
   EXPECT_TRUE(jpeg.SampleHDC(image.hDC(), 1, 65535));
-}
-
-TEST(Jpegs, AverageOverCellsEvenIfTheyCutPixels) {
-  Plane plane(6, 6);
-  // 30 to the right, 300 down.
-  for (size_t i = 0; i < 36; ++i) plane.Row(i / 6)[i % 6] = 30.0F * (i % 6) + 300.0F * (i / 6);
-  const struct {
-    Rate across, down;
-    std::vector<float> wanted;  // the first two of the second row
-  } cases[] = {{{1, 2}, {1, 2}, {765, 825}},
-               {{2, 4}, {1, 2}, {765, 825}},
-               {{2, 3}, {3, 3}, {310, 350}},
-               {{1, 1}, {2, 3}, {500, 530}},
-               {{1, 3}, {1, 1}, {330, 420}}};
-  for (const auto& c : cases) {
-    Plane samples(2, 2);
-    Subsample(plane, c.across, c.down, 2, samples);
-    EXPECT_NEAR(samples.Row(1)[0], c.wanted[0], 0.01);
-    EXPECT_NEAR(samples.Row(1)[1], c.wanted[1], 0.01);
-  }
-}
-
-TEST(FormImage, PutsBothFilesInThePlaceOfOldOnes) {
-  const TempFolder folder;
-  folder.Write("forum.jpg", "old");
-  folder.Write("forum.bmp", "old");
-  EXPECT_THROW(form_image(PixelView(), folder.path()), RuntimeFailure);
-  EXPECT_EQ(folder.Read("forum.bmp"), "old");
-  const cImage image = Dark(3, 2);
-  EXPECT_EQ(form_image(image.hDC(), folder.path()), folder.path() + "\\forum.jpg");
-  EXPECT_THAT(folder.Read("forum.jpg"), StartsWith("\xFF\xD8"));
-  EXPECT_THAT(folder.Read("forum.bmp"), StartsWith("BM"));
-  EXPECT_EQ(folder.Read("forum.bmp").size(), 54U + 2 * 12);
 }
 
 }  // namespace

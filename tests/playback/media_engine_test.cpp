@@ -81,14 +81,6 @@ TEST_F(MediaEngineTest, ALengthThatCorrectsItselfIsReadAgain) {
   EXPECT_EQ(engine.MediaPosition(), 35.5);
 }
 
-TEST_F(MediaEngineTest, NothingOpenIgnoresVolumeAndReportsNothing) {
-  engine.MediaSetVolume(-500);
-  EXPECT_TRUE(player.calls.empty());
-  engine.MediaStop();
-  engine.MediaPause();
-  EXPECT_EQ(engine.MediaPosition(), 0);
-}
-
 TEST_F(MediaEngineTest, TheVideoFillsTheMainBoxAndKeepsItsRatioOnTheSecondMonitor) {
   player.native_size = VideoSize{640, 360};
   engine.OpenMedia("v", false);

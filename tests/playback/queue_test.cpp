@@ -179,16 +179,6 @@ TEST_F(QueueScreenTest, ShowsAtOnceWhatAStationPutBeforeTheRows) {
   EXPECT_EQ(Rows(), "T0 T1 T2 T3 T4 ");
 }
 
-TEST_F(QueueScreenTest, OneDamagedFileHidesNoOther) {
-  Open();
-  folder.Write("music/Q/1.wav.tag", "too short");
-  queue().InsertFirst(AlbumPath("Q") + "gone.m4a", "");
-  house().queue_view.Update_queue2();
-  EXPECT_EQ(Rows(), "No Tag No Tag T2 T3 T4 ");
-  EXPECT_EQ(form().queue.remaining.caption(), " 8 Song(s) Remaining In Queue");
-  EXPECT_EQ(form().now_playing.next_song_title.caption(), "No Tag");
-}
-
 TEST_F(QueueScreenTest, TheCommandsMoveAndRemoveTheChosenEntry) {
   Open();
   const auto& clear = form().queue.commands[static_cast<size_t>(QueueCommand::kClear)];

@@ -107,28 +107,6 @@ TEST_F(DecadesTest, AResolvedChartNeedsNoScan) {
   EXPECT_EQ(paints, 0);
 }
 
-TEST_F(DecadesTest, ThePanelIsPaintedBeforeTheScanAndItsBarMovesWithALongOne) {
-  for (int i = 0; i < 5000; ++i) records += TrackBytes("\\m\\x.mp3", "Other");
-  folder.Write("Records.rec", records);
-  folder.Write(kMonth, Plain({}));
-  Start();
-  // The album pages alone, although a chart was loaded.
-  EXPECT_EQ(Shown(), Screens{screen::kAlbum});
-  Open();
-  std::vector<int> bar;
-  machine.events.on_paint = [&] {
-    EXPECT_TRUE(form().searching.panel.visible());
-    EXPECT_FALSE(form().decades.panel.visible());
-    bar.push_back(form().searching.progress.value());
-    machine.clock.Add(300);
-  };
-  Step(DecadesStep::kYearOn);
-  EXPECT_EQ(bar, (std::vector<int>{0, 2, 4, 6, 8}));
-  EXPECT_EQ(form().searching.progress.max(), 10);
-  EXPECT_FALSE(form().searching.panel.visible());
-  EXPECT_EQ(Shown(), Screens{screen::kDecades});
-}
-
 TEST_F(DecadesTest, AChartOfAnyLengthGivesItsWholeLinesAndNothingOfAnother) {
   AddTrack("\\m\\1.mp3", "Ada", "Dawn");
   folder.Write(kMonth, Chart({}, "Ada,Dawn,"));

@@ -144,18 +144,6 @@ TEST_F(GenreTest, AllGenresOnTheBarLeavesAnEmptyGenreOfThatName) {
   EXPECT_EQ(OnBar(), Captions({"ALL GENRES", "Blues", "Rock"}));
 }
 
-TEST_F(GenreTest, WithoutAFolderThereAreAllGenresAlone) {
-  Start();
-  OpenScreen();
-  EXPECT_EQ(OnScreen(), Captions({"ALL GENRES"}));
-  house().cursor.source = CatalogueSource::kVideos;
-  OpenBar();
-  EXPECT_EQ(OnBar(), Captions({"ALL GENRES"}));
-  Click(Bar(1));
-  EXPECT_EQ(house().cursor.source, CatalogueSource::kRecords);
-  EXPECT_EQ(FirstAlbum(), "Day");
-}
-
 TEST_F(GenreTest, AGenreDeletedWhileItIsListedComesBackEmpty) {
   WriteGenre("Rock");
   Start();

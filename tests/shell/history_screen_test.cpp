@@ -115,18 +115,6 @@ TEST_F(HistoryScreenTest, NoPressAtAnyLengthOfTheLogEverFailsOrCostsAnything) {
   }
 }
 
-TEST_F(HistoryScreenTest, ALogCutAnywhereInItsLastRecordsShowsThoseThatAreWhole) {
-  WriteHistory(3);
-  const std::string bytes = folder.Read("User_history.dat");
-  Start();
-  for (size_t length = 1070; length <= bytes.size(); length += 107) {
-    folder.Write("User_history.dat", bytes.substr(0, length));
-    jukebox->menu.Open(MenuButton::kHistory);
-    ASSERT_EQ(Song(0), "Song " + std::to_string(length / 1070));
-    ASSERT_EQ(Top(), static_cast<int64_t>(length / 1070));
-  }
-}
-
 TEST_F(HistoryScreenTest, TextsLeadToThePlayOptionsAndCoversToTheAlbum) {
   WriteHistory(3);
   Start();

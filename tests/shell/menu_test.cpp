@@ -40,17 +40,6 @@ TEST_F(MenuTest, EachButtonShowsItsScreenAloneAndBackMeansTheAlbums) {
   EXPECT_TRUE(form().panel(screen::kChartChoice).visible());
 }
 
-TEST_F(MenuTest, ThePickersOwnBackTakesOnlyThePickerAway) {
-  Start();
-  form().decades.year_picker.SetVisible(true);
-  form().decades.month_picker.SetVisible(true);
-  jukebox->menu.Open(MenuButton::kDecades);
-  EXPECT_FALSE(form().decades.month_picker.visible());
-  Click(form().decades.year_back);
-  EXPECT_FALSE(form().decades.year_picker.visible());
-  EXPECT_EQ(Shown(), Screens{screen::kDecades});
-}
-
 TEST_F(MenuTest, ThePinDecidesWhoSeesWhichSections) {
   settings.prompt_for_pin = true;
   settings.admin_pin = settings.delegate_pin = "12";

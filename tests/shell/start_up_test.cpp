@@ -54,12 +54,6 @@ TEST_F(StartUpTest, AnyOneOfTheThreeTrackFilesIsEnough) {
   }
 }
 
-TEST_F(StartUpTest, WithoutAnySettingsThereIsNoJukebox) {
-  folder.Remove("sonotik.def");
-  EXPECT_THROW(Jukebox(folder.path(), machine.machine).Start(), RuntimeFailure);
-  EXPECT_EQ(Milestones().back(), "Start UP Complete");
-}
-
 TEST_F(StartUpTest, FillsTheListsThatOthersPickFrom) {
   machine.displays.monitors.resize(3);
   machine.clock.date = {1999, 12, 31};

@@ -13,7 +13,6 @@ using testing::AllOf;
 using testing::Contains;
 using testing::ElementsAre;
 using testing::HasSubstr;
-using testing::IsSupersetOf;
 
 // A delivered skin, for a test to spoil.
 class SkinCheckTest : public testing::Test {
@@ -100,23 +99,6 @@ TEST_F(SkinCheckTest, CountsWhatIsMissingAndWhatIsTooMuch) {
                           "spin.ini: is too long: 2 values more than 13; a text may hold a comma",
                           "pin_screen.ini: is too short: it ends after 147 of 148 values",
                           "preview.jpg: is missing"));
-}
-
-TEST_F(SkinCheckTest, FindsPlacesToTouchOnEachOther) {
-  // The second button of the history where the first one stands.
-  auto lines = Lines("history.ini");
-  for (size_t i = 8; i < 12; ++i) lines[13 + i] = lines[i];
-  WriteLines("history.ini", lines);
-  // A row of the track list that reaches over the next.
-  lines = Lines("tracklist.ini");
-  const size_t height = 326 + 7;
-  lines[height] = std::to_string(std::stoi(lines[height]) + 30);
-  WriteLines("tracklist.ini", lines);
-  EXPECT_THAT(Check(),
-              IsSupersetOf({AllOf(HasSubstr("history.step 1 of 4"),
-                                  HasSubstr("overlaps history.ini, history.step 2")),
-                            AllOf(HasSubstr("trackList.title 1 of 13"),
-                                  HasSubstr("overlaps tracklist.ini, trackList.title 2"))}));
 }
 
 TEST_F(SkinCheckTest, ChecksEachCoverLayout) {

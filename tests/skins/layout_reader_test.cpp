@@ -147,24 +147,6 @@ TEST_F(LayoutReaderTest, DoesNothingWithoutAFileAndFailsAtWhatIsMissingInOne) {
   }
 }
 
-TEST_F(LayoutReaderTest, KeepsWhatWasHandedOnBeforeAFailureAndTouchesNothingBehind) {
-  const LayoutFile& file = *FindLayoutFile("search_tab.ini");
-  auto& tabs = form.search_results.tabs;
-  tabs[1].SetShape(4);
-  tabs[2].SetShape(4);
-  std::string text;
-  // All of the first and the caption of the second.
-  for (const LayoutField& field : WrittenFields(file)) {
-    if (field.number <= 13 + 2) text += PlainValue(field) + "\n";
-  }
-  EXPECT_THAT(Failure(file, text), HasSubstr("search_tab.ini: field 16"));
-  EXPECT_EQ(tabs[0].shape(), 3);
-  EXPECT_EQ(tabs[1].caption(), "Caption 15");
-  EXPECT_EQ(tabs[1].shape(), 0);
-  EXPECT_EQ(tabs[2].caption(), "Karaoke");
-  EXPECT_EQ(tabs[2].shape(), 4);
-}
-
 TEST_F(LayoutReaderTest, FailsAtAWordWhereANumberIsDueAndNowhereElse) {
   for (const LayoutFile* file : AllFiles()) {
     for (const LayoutField& field : WrittenFields(*file)) {
@@ -196,36 +178,6 @@ TEST_F(LayoutReaderTest, StaysWithinAnyScreenForNumbersOfAnySize) {
           EXPECT_GE(std::min(place.width, place.height), 0);
         }
       }
-    }
-  }
-}
-
-TEST_F(LayoutReaderTest, TakesLineEndsOfAnyKind) {
-  for (const LayoutFile* file : AllFiles()) {
-    bool has_size = false;
-    for (const LayoutField& field : WrittenFields(*file)) {
-      has_size |= field.kind == FieldKind::kFontSize;
-    }
-    for (const char* line_end : {"\n", "\r", "\r\n"}) {
-      EXPECT_EQ(Failure(*file, LayoutText(*file, PlainValue, line_end)), "") << file->name;
-    }
-    // A font size is a line of its own; the rest may share one.
-    EXPECT_EQ(!Failure(*file, LayoutText(*file, PlainValue, ",")).empty(), has_size) << file->name;
-  }
-}
-
-TEST_F(LayoutReaderTest, ReadsTenMegabytesOfAnythingInNoTime) {
-  const std::string many(10 << 20, 'x');
-  for (const LayoutFile* file : {&SkinFile(), FindLayoutFile("main.ini")}) {
-    EXPECT_EQ(Failure(*file, LayoutText(*file) + many), "");
-  }
-  for (const std::string& bytes : {many, std::string(10 << 20, ','), std::string(10 << 20, '"'),
-                                   std::string(10 << 20, '\0'), std::string(10 << 20, '\n')}) {
-    Failure(spin, bytes);
-    for (const int number : {2, 6, 13}) {
-      Failure(spin, LayoutText(spin, PlainBut(number, bytes)));
-      EXPECT_LE(spin_tab.caption().size(), 1024u);
-      EXPECT_LE(spin_tab.font().family.size(), 1024u);
     }
   }
 }

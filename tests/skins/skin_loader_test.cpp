@@ -40,14 +40,6 @@ class SkinLoaderTest : public JukeboxTest {
   }
 };
 
-TEST_F(SkinLoaderTest, PutsTheSkinOnWhileTheJukeboxStarts) {
-  WriteLayout("spin.ini");
-  jukebox.reset();
-  Start();
-  EXPECT_EQ(form().album.tabs[5].caption(), "Caption 2");
-  EXPECT_THAT(folder.Read("debug.log"), HasSubstr("Skin Load Complete"));
-}
-
 TEST_F(SkinLoaderTest, EndsAtADamagedFileAndKeepsWhatWasPutOn) {
   WriteLayout("search.ini");
   Write("tracklist.ini", "a\nCaption\nword\n");

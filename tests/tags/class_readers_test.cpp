@@ -21,16 +21,6 @@ clsID3V230Reader Read(const std::string& bytes) {
   return reader;
 }
 
-TEST(clsID3V230Reader, TakesTextsAsTheyStandUpTo512Bytes) {
-  const auto encoder = [](const std::string& file) { return Read(file).EncodedBy; };
-  Check({{"the encoding isn't looked at, NULs stay", Tag(3, 0, Frame3("TENC", Bytes("\1A\0B"))),
-          Bytes("A\0B")},
-         {"at most", Tag(3, 0, Frame4("TENC", std::string(512, 'x'))), std::string(511, 'x')},
-         {"too long", Tag(3, 0, Frame4("TENC", std::string(513, 'x'))), ""},
-         {"encrypted", Tag(3, 0, Frame3("TENC", "xyz", 0x40)), ""}},
-        encoder);
-}
-
 TEST(clsID3V230Reader, TakesOtherFramesApart) {
   const std::string lines =
       Bytes("\0eng\2\1d\0one\n\0") + Big(61000) + Bytes("two\0") + Big(3600000);

@@ -1,17 +1,14 @@
 // Files that lie: the readers may fail in words, but never crash, hang or take memory that the file
 // doesn't back.
 #include <gtest/gtest.h>
-#include <sys/stat.h>
 
 #include <algorithm>
 #include <cstdlib>
 #include <new>
 
-#include "files/runtime_failure.h"
 #include "fuzz/parsers.h"
 #include "fuzz/recipes.h"
 #include "tags/tag_files.h"
-#include "tags/tag_reader.h"
 
 namespace {
 size_t largest_allocation = 0;
@@ -60,19 +57,6 @@ TEST(HostileBytes, WhatIsWrongEndsInFieldsOrInWords) {
     for (const auto& [recipe, bytes] : all.at(parser.name)) {
       EXPECT_NE(Survives(parser, AsBytes(bytes)), recipe.starts_with("fails_")) << recipe;
     }
-  }
-}
-
-TEST(HostileBytes, FoldersAndPipesAreNoFiles) {
-  const Scratch scratch;
-  TagFields fields;
-  TagReader reader(fields, [] { return true; });
-  std::filesystem::create_directory(scratch.Native("folder.mp3"));
-  ASSERT_EQ(::mkfifo(scratch.Native("pipe.mp3").c_str(), 0600), 0);
-  for (const char* name : {"folder.mp3", "pipe.mp3"}) {
-    reader.Readtag(scratch.Path(name));
-    EXPECT_EQ(fields.txtTitle + fields.txtmp3time, "0:00");
-    EXPECT_THROW(reader.Readtag2(scratch.Path(name)), RuntimeFailure);
   }
 }
 

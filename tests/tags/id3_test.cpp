@@ -173,15 +173,5 @@ TEST(Id3v1, TheTwoReadersTellTracksAndTextsApart) {
   EXPECT_EQ(reader.artist, "was");
 }
 
-TEST(Id3v1, TheClassSpellsEightGenresInItsOwnWay) {
-  std::string genres;
-  for (const int number : {39, 40, 81, 82, 84, 117, 123, 128, 133, 147, 148, 255}) {
-    genres += ByClass(Id3v1("", {'\0', '\0', static_cast<char>(number)})).substr(7);
-  }
-  EXPECT_EQ(genres,
-            "Noise|AlternRock|Folk/Rock|National folk|Fast-fusion|Powder Ballad|A Capella|"
-            "Club House|NegerPunk|SynthPop|||");
-}
-
 }  // namespace
 }  // namespace sonotik

@@ -174,15 +174,5 @@ TEST_F(RealFiles, TimesAndRatesAgreeWithAnIndependentReader) {
   }
 }
 
-TEST_F(RealFiles, WmaAndM4aTellTheirNames) {
-  const std::string names =
-      " -metadata title='Rock & Roll' -metadata artist=Band -metadata album=Al -metadata date=1999";
-  Make("a.wma", "duration=7 -b:a 64k" + names);
-  EXPECT_EQ(Read("a.wma"), "Rock && Roll|Band|Al|||");
-  // The table of samples of some minutes brings the names to where they are looked for.
-  Make("a.m4a", "duration=200 -b:a 16k -movflags +faststart" + names);
-  EXPECT_EQ(Read("a.m4a"), "Rock & Roll|Band|Al|1999||");
-}
-
 }  // namespace
 }  // namespace sonotik

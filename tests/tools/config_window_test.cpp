@@ -47,14 +47,5 @@ TEST_F(ConfigWindowTest, BuildsFromItsFoldersTellsWhatItCouldNotReadAndRemembers
   EXPECT_EQ(again.folders(CatalogueKind::kAudio), 1);
 }
 
-TEST_F(ConfigWindowTest, TakesFromADamagedFileTheFoldersThatItStillTells) {
-  for (const char* text : {"", "word", " 99999999 \r\n/a", " 1 \r\n/a\r\n 2 \r\n/b"}) {
-    Put("config.dat", text);
-    const ConfigWindow window(root_);
-    EXPECT_EQ(window.folders(CatalogueKind::kAudio),
-              std::string(text).find("/a") != std::string::npos ? 1 : 0);
-  }
-}
-
 }  // namespace
 }  // namespace sonotik

@@ -106,29 +106,6 @@ TEST(Controls, HoverFollowsTheMouseAndLeavesWithIt) {
   EXPECT_TRUE(screen.button.hovered());
 }
 
-TEST(Controls, WhatIsDraggedEntersMovesLeavesAndDrops) {
-  Screen screen;
-  std::string told;
-  screen.button.on_drag_over = [&](DragEvent& event) {
-    told += std::to_string(static_cast<int>(event.state)) + event.data.text + " ";
-    event.effect = event.proposed;
-  };
-  screen.button.on_drag_drop = [&](DragEvent& event) {
-    EXPECT_EQ(event.at.x * 100 + event.at.y, 507);
-    told += "dropped";
-  };
-  const DragData data{{}, "song"};
-  const auto copy = DropEffect::kCopy, none = DropEffect::kNone;
-  const std::pair<Point, DropEffect> way[] = {
-      {{150, 90}, none}, {{35, 35}, copy}, {{36, 35}, copy}, {{150, 90}, none}, {{35, 35}, copy}};
-  for (const auto& [at, effect] : way) EXPECT_EQ(screen.form.DragMouse(at, data, copy), effect);
-  screen.form.LeaveDrag();
-  screen.form.DropMouse({35, 37}, data, copy);
-  EXPECT_EQ(told, "0song 2song 1 0song 1 dropped");
-  screen.button.SetEnabled(false);
-  EXPECT_EQ(screen.form.DragMouse({35, 35}, data, copy), none);
-}
-
 TEST(Labels, ShowDoubledAmpersandsOnceAndNoAccessMarks) {
   EXPECT_EQ(CaptionAsShown("Rock && Roll"), "Rock & Roll");
   EXPECT_EQ(CaptionAsShown("&Play"), "Play");

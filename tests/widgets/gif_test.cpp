@@ -96,24 +96,6 @@ TEST(Gifs, OfHostileFilesNothingIsDrawnThatIsNotThere) {
   }
 }
 
-// Nothing worse happens than another picture.
-TEST(Gifs, SurviveEveryTurnedByte) {
-  for (const gif::Recipe& recipe : gif::Recipes()) {
-    for (size_t at = 0; at < std::min<size_t>(recipe.bytes.size(), 100); ++at) {
-      for (const int flip : {1, 128, 255}) {
-        std::string broken = recipe.bytes.substr(0, 200);
-        broken[at] = static_cast<char>(broken[at] ^ flip);
-        const auto read = ReadGif(broken);
-        if (!read || read->width * read->height > 1 << 16) continue;
-        ucAniGIF control;
-        control.LoadAnimatedGIF_Array(broken);
-        control.SetAction(GifAction::kNext);
-      }
-    }
-  }
-}
-
-// What giflib says of frames, too, is judged there.
 TEST(Gifs, AreAsLargeAsTheirFramesAndAFirstFrameHasNothingToGoBackTo) {
   const auto gif =
       ReadGif(Head() + Loops(513) + Control(3 << 2, 10) + Dot() + Control(3 << 2, 655) +
@@ -207,58 +189,6 @@ TEST(Animations, StandStillWhileTheyDoNotShow) {
   p.panel.SetVisible(false);
   p.panel.SetVisible(true);
   EXPECT_TRUE(p.gif.playing()) << "also one that was paused by hand";
-}
-
-TEST(Animations, ShowOtherColorsAndMirroredRowsAtOnce) {
-  ucAniGIF gif;
-  ASSERT_TRUE(gif.LoadAnimatedGIF_Array(Head() + Image(0, 0, 2, 1, 2, kFour)));
-  const auto reds = [&] { return std::vector<int>{Pixels(gif)[0], Pixels(gif)[4]}; };
-  EXPECT_THAT(reds(), ElementsAre(255, 0));
-  gif.SetMirrored(1);
-  EXPECT_THAT(reds(), ElementsAre(0, 255));
-  gif.SetMirrored(4);
-  gif.CacheColorTables();
-  gif.SetPalette(0, {Rgb(7, 0, 0)});
-  EXPECT_THAT(reds(), ElementsAre(0, 7)) << "a number beyond the table is black";
-  gif.SetPalette(1, {});
-  EXPECT_TRUE(gif.GetPalette(1).empty());
-  gif.RestoreColorTables();
-  EXPECT_THAT(reds(), ElementsAre(0, 255));
-}
-
-TEST(Animations, ComeFromElsewhereOrSayThatTheyDoNot) {
-  auto gif = std::make_unique<ucAniGIF>();
-  std::vector<std::string> heard;
-  gif->on_remote_load_complete = [&] { heard.push_back("complete"); };
-  gif->on_remote_load_failure = [&] { heard.push_back("failure"); };
-  gif->LoadAnimatedGIF_Remote("a");
-  ucAniGIF::Received received;
-  gif->remote_loader = [&](const std::string&, ucAniGIF::Received r) { received = std::move(r); };
-  gif->LoadAnimatedGIF_Remote("a");
-  received(std::nullopt);
-  received("GIF90a");
-  received(Head() + Dot());
-  EXPECT_THAT(heard, ElementsAre("failure", "failure", "failure", "complete"));
-  EXPECT_EQ(gif->frame_count(), 1);
-  gif.reset();
-  received(Head() + Dot());
-}
-
-TEST(Animations, AreStoredByKeyWithTheirBytes) {
-  ucAniGIF gif;
-  ASSERT_TRUE(gif.LoadAnimatedGIF_Array(Head() + Loops(9) + Dot()));
-  gif.SetStretch(2);
-  gif.SetOffset(-3, 4);
-  PropertyBag bag;
-  gif.WriteTo(bag);
-  bag.Write("DelayLoad", "7");
-  bag.Write("Delay", "5");
-  bag.Write("loops", "-4");
-  ucAniGIF same;
-  same.ReadFrom(bag);
-  EXPECT_THAT((std::vector{same.frame_count(), same.stretch(), same.offset_x(),
-                           same.delay_animation(), same.min_frame_delay(), same.loops()}),
-              ElementsAre(1, 2, -3, 1, 10, 4));
 }
 
 }  // namespace

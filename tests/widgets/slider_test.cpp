@@ -90,22 +90,5 @@ TEST(Sliders, StandingOnesBeginAtTheTopAndWithTheSizeTheyAreGiven) {
   EXPECT_EQ(s.slider.value(), 0);
 }
 
-TEST(Sliders, AreStoredByKey) {
-  Slider slider;
-  slider.SetRange(-4000, 0);
-  slider.SetValue(-30);
-  slider.SetBar("bar.bmp");
-  PropertyBag bag;
-  slider.WriteTo(bag);
-  EXPECT_EQ(bag.Read("BACKCOLOR"), "-2147483633");
-  bag.Write("LargeChange", "ten");
-  Slider other;
-  other.ReadFrom(bag);
-  EXPECT_EQ(other.min(), -4000);
-  EXPECT_EQ(other.value(), -30);
-  EXPECT_EQ(other.large_change(), 0);
-  EXPECT_EQ(other.bar(), "bar.bmp");
-}
-
 }  // namespace
 }  // namespace sonotik
