@@ -28,14 +28,22 @@ AlbumPages::AlbumPages(Machine& machine, const Settings& settings, Catalogue& ca
       form1_(form),
       screen_(form.album) {}
 
-void AlbumPages::PaintPage(bool at_random) {
+void AlbumPages::read_albums3() {
+  if (PaintPage(false)) Reveal();
+}
+
+void AlbumPages::spin_on_this() {
+  if (PaintPage(true)) Reveal();
+}
+
+bool AlbumPages::PaintPage(bool at_random) {
   RecordFile file(catalogue_.AlbumFileFor(cursor_), AlbumRecord::kSize);
   const long count = file.count();
   const long covers = layout_.covers_per_page;
   long pos = cursor_.position();
   const long pages = FloorDiv(count - 1, covers) + 1;
   const long page = FloorDiv(pos, covers);
-  if (page >= pages || page <= -1) return;
+  if (page >= pages || page <= -1) return false;
 
   // The first page reads as page 0, and the second number counts from the record before the last:
   // both are meant.
@@ -56,6 +64,10 @@ void AlbumPages::PaintPage(bool at_random) {
     slots_[static_cast<size_t>(slot) + 1] = {};
   }
   for (; slot <= covers; ++slot) HideCover(slot);
+  return true;
+}
+
+void AlbumPages::Reveal() {
   animation_.RevealCovers(settings_, {&form1_.panel(screen::kAlbum)},
                           settings_.cover_animation_speed);
 }
@@ -114,6 +126,12 @@ void AlbumPages::StepWithUndo(long pages, const std::function<void()>& paint) {
   page_valid_ = false;
 }
 
+void AlbumPages::StepWithUndo(long pages) {
+  bool painted = false;
+  StepWithUndo(pages, [&] { painted = PaintPage(false); });
+  if (painted) Reveal();
+}
+
 void AlbumPages::StepPage(int direction) {
   if (paging_busy_) return;
   paging_busy_ = true;
@@ -121,15 +139,16 @@ void AlbumPages::StepPage(int direction) {
     bool& busy;
     ~Release() { busy = false; }
   } release{paging_busy_};
-  StepWithUndo(direction, [this] { read_albums3(); });
+  StepWithUndo(direction);
   machine_.events.PumpEvents();
 }
 
 void AlbumPages::JumpToStart() {
   // Position 0, not 1: the next page then starts at the last record of this one, which is meant.
   cursor_.SetPosition(0);
-  read_albums3();
+  const bool painted = PaintPage(false);
   page_valid_ = false;
+  if (painted) Reveal();
 }
 
 void AlbumPages::ShowSource(CatalogueSource source) {

@@ -31,12 +31,14 @@ class AlbumPages {
 
   // Paints the page at the source's position. A position outside the file paints nothing and leaves
   // page_valid() as it was.
-  void read_albums3() { PaintPage(false); }
+  void read_albums3();
   // A page of random albums; the position stays.
-  void spin_on_this() { PaintPage(true); }
+  void spin_on_this();
 
-  // The paging buttons: a page on (1) or back (-1), undone where there is none.
+  // The paging buttons: a page on (1) or back (-1), undone where there is none. They do nothing while
+  // one of them is at work.
   void StepPage(int direction);
+  bool paging_busy() const { return paging_busy_; }
   void JumpToStart();
   void PressTab(AlbumTab tab);
   // "Database to use on startup...": 0 Audio, 1 Video, 2 Karaoke; others do nothing.
@@ -45,6 +47,8 @@ class AlbumPages {
   // Moves the position by this many pages, calls `paint`, and undoes the step if that painted
   // nothing.
   void StepWithUndo(long pages, const std::function<void()>& paint);
+  // The same for the page itself, which then comes in its animation.
+  void StepWithUndo(long pages);
 
   // The cover that the keys have marked, -1 for none: the colours of its two labels are swapped.
   int highlight() const { return highlight_; }
@@ -57,7 +61,10 @@ class AlbumPages {
   const std::array<CoverSlot, kMostCovers + 1>& slots() const { return slots_; }
 
  private:
-  void PaintPage(bool at_random);
+  // Whether there was a page to paint.
+  bool PaintPage(bool at_random);
+  // Comes last of all: it lets events run, and one of them may page on.
+  void Reveal();
   void FillSlot(int slot, const AlbumRecord& record, long number);
   void ShowCover(int slot);
   void HideCover(int slot);

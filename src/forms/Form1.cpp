@@ -163,6 +163,9 @@ void Form1::HideAllScreens() {
 void Form1::ShowScreen(size_t index) {
   ++screens_shown_;
   shown_last_ = index;
+  // An attract picture left standing behind a screen would come back at the next idle time, whatever
+  // the settings say by then.
+  if (index != screen::kNowPlaying) attract_picture.SetVisible(false);
   panels[index].SetVisible(true);
   panels[index].BringToFront();
   RaiseFact();

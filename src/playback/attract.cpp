@@ -44,9 +44,13 @@ void Attract::Change() {
 
 void Attract::End() {
   if (!form1_.attract_picture.visible()) return;
+  const unsigned long shown = form1_.screens_shown();
   Hide(form1_.panel(screen::kNowPlaying));
   Animate(form1_.attract_picture, 0);
   Hide(form1_.attract_picture);
+  // A guest who opened a screen meanwhile, or is asked for his PIN, stays there.
+  if (form1_.screens_shown() != shown || form1_.pin_screen.visible()) return;
+  form1_.ShowScreen(screen::kAlbum);
 }
 
 void Attract::Hide(Panel& panel) {

@@ -23,7 +23,7 @@ class Attract {
   // One change: the next picture for what plays, or what plays for the picture. An empty folder
   // still takes its turn, with the last picture.
   void Change();
-  // A touch: the picture goes, and with it the screen behind.
+  // A touch: the picture goes, and with it the screen behind, for the album pages.
   void End();
 
  private:

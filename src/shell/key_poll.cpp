@@ -157,7 +157,7 @@ void KeyPoll::StepPage(int direction) {
   CatalogueCursor& cursor = house_.cursor;
   const long covers = house_.cover_layout.covers_per_page;
   if (direction > 0) {
-    house_.pages.StepWithUndo(1, [this] { house_.pages.read_albums3(); });
+    house_.pages.StepWithUndo(1);
     return;
   }
   // One page back, as long as that is above 0; the page is painted in any case.

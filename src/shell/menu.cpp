@@ -30,10 +30,7 @@ void Menu::Wire() {
     if (i == screen::kPlayOptions) continue;
     OnClick(form.panels[i], "screen", [this] { TouchEmptySpace(); });
   }
-  OnClick(form.attract_picture, "attract picture", [this] {
-    house_.attract.End();
-    house_.form1.ShowScreen(screen::kAlbum);
-  });
+  OnClick(form.attract_picture, "attract picture", [this] { house_.attract.End(); });
 
   for (size_t i = 1; i < form.pin.keys.size(); ++i) {
     OnClick(form.pin.keys[i], "PIN", [this, i] { house_.pin.PressDigit(static_cast<int>(i)); });

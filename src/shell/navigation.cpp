@@ -47,6 +47,7 @@ void Navigation::WireAlbumScreen() {
   }
   JumpToLetterScreen& jump = house_.form1.jump_to_letter;
   OnClick(screen.jump_to_letter, "Jump To Letter", [this, &jump] {
+    if (house_.pages.paging_busy()) return;
     house_.pages.SetPageValid(false);
     jump.panel.SetVisible(true);
     jump.panel.BringToFront();

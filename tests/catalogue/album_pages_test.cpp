@@ -48,6 +48,32 @@ TEST_F(AlbumPagesTest, PagingStopsAtBothEndsWithoutLosingItsPlace) {
   }
 }
 
+TEST_F(AlbumPagesTest, ATouchWhileTheCoversComeNeitherUndoesThePageNorOpensTheLetters) {
+  WriteCount(60);
+  Start();
+  house().settings.use_animated_covers = true;
+  for (const Control* touched : {static_cast<const Control*>(&form().album.jump_to_letter),
+                                 static_cast<const Control*>(&form().album.next)}) {
+    house().cursor.SetPosition(1);
+    machine.events.on_pump = [&, now = 0]() mutable {
+      if (++now == 3) touched->on_click();
+    };
+    Click(form().album.next);
+    machine.events.on_pump = [] {};
+    EXPECT_EQ(house().cursor.position(), 13);
+    EXPECT_EQ(FirstAlbum(), "Album 13");
+    EXPECT_FALSE(form().jump_to_letter.panel.visible());
+  }
+  // The way to the start has no such flag, and wins.
+  machine.events.on_pump = [&, now = 0]() mutable {
+    if (++now == 3) form().album.letter_buttons[26].on_click();
+  };
+  Click(form().album.next);
+  machine.events.on_pump = [] {};
+  EXPECT_EQ(house().cursor.position(), 0);
+  EXPECT_EQ(FirstAlbum(), "Album 1");
+}
+
 TEST_F(AlbumPagesTest, LettersJumpByTheirOwnArithmeticAndNeverReadTheLastRecord) {
   WriteCount(52);
   WriteCount(52, "new.cvr");

@@ -105,7 +105,10 @@ TEST_F(MenuTest, ATouchAtAnyStepOfAnAttractChangeLeadsToAScreen) {
   Start();
   house().settings.animation_amount = "3";
   house().settings.attract_animation_style = 0;
-  for (const bool picture_first : {false, true}) {
+  // Through the part of the picture that has gone already, a finger meets the screen behind.
+  const Control* const touches[] = {&form().attract_picture, &form().panel(screen::kNowPlaying)};
+  for (int which = 0; which < 4; ++which) {
+    const bool picture_first = which % 2 == 1;
     for (int step = 1; step <= 8; ++step) {
       form().HideAllScreens();
       if (!picture_first) form().ShowScreen(screen::kNowPlaying);
@@ -114,16 +117,41 @@ TEST_F(MenuTest, ATouchAtAnyStepOfAnAttractChangeLeadsToAScreen) {
       machine.events.on_pump = [&, now = 0]() mutable {
         if (++now != step) return;
         house().state.idle_seconds = 0;
-        if (form().attract_picture.visible()) return form().attract_picture.on_click();
+        if (form().attract_picture.visible()) return touches[which / 2]->on_click();
         jukebox->menu.Open(MenuButton::kAlbumView);
       };
       house().state.idle_seconds = 61;
       house().attract.Change();
       machine.events.on_pump = [] {};
-      EXPECT_FALSE(form().attract_picture.visible()) << picture_first << step;
-      EXPECT_EQ(Shown(), Screens{screen::kAlbum}) << picture_first << step;
+      EXPECT_FALSE(form().attract_picture.visible()) << which << step;
+      EXPECT_EQ(Shown(), Screens{screen::kAlbum}) << which << step;
     }
   }
+}
+
+TEST_F(MenuTest, AScreenOpenedWhileTheAttractPictureGoesStays) {
+  Start();
+  house().settings.prompt_for_pin = true;
+  house().settings.animation_amount = "3";
+  house().settings.attract_animation_style = 0;
+  for (const auto& [button, shown] : {std::pair{MenuButton::kHistory, Screens{screen::kHistory}},
+                                      std::pair{MenuButton::kOptions, Screens{}}}) {
+    form().HideAllScreens();
+    form().attract_picture.SetVisible(true);
+    machine.events.on_pump = [&, now = 0]() mutable {
+      if (++now == 2) jukebox->menu.Open(button);
+    };
+    form().attract_picture.on_click();
+    machine.events.on_pump = [] {};
+    EXPECT_EQ(Shown(), shown);
+  }
+}
+
+TEST_F(MenuTest, AnAttractPictureDoesNotComeBackOnceAGuestWentOn) {
+  Start();
+  form().attract_picture.SetVisible(true);
+  jukebox->menu.Show(screen::kHistory);  // As a key does, which touches nothing.
+  EXPECT_FALSE(form().attract_picture.visible());
 }
 
 }  // namespace
