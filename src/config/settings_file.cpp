@@ -77,6 +77,9 @@ void SettingsFile::ReadRow(FieldReader& reader, const SettingRow& row, Settings&
         std::string read = reader.Text();
         // The delivered file can't know where the jukebox stands.
         if (row.number == setting_row::kAttractPath && defaults) read = app_path_;
+        if (row.number == setting_row::kJinglePath && defaults && read.empty()) {
+          read = app_path_ + "\\jingles";
+        }
         changed = Assign(into.**text, std::move(read));
         break;
       }

@@ -63,6 +63,7 @@ inline constexpr int kSecondMonitor = 35;
 inline constexpr int kTabs = 43;
 inline constexpr int kPlayButtons = 45;
 inline constexpr int kAttractPath = 67;
+inline constexpr int kJinglePath = 70;
 inline constexpr int kStartupDatabase = 74;
 inline constexpr int kAddAllToQueue = 79;
 }  // namespace setting_row

@@ -10,7 +10,7 @@
 namespace sonotik {
 namespace {
 
-constexpr std::string_view kLineNames[] = {"Line", "Line In", "Line-In", "LineIn", "Aux"};
+constexpr std::string_view kLineNames[] = {"Line", "Line In", "Line-In", "LineIn"};
 constexpr std::string_view kMicrophoneNames[] = {"Mic",       "Microphone", "Mic In",     "Mic-In",
                                                  "Front Mic", "Rear Mic",   "Headset Mic"};
 

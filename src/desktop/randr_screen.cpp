@@ -102,7 +102,6 @@ RandrScreen::RandrScreen(const char* display) : display_(XOpenDisplay(display)) 
   told_.setSingleShot(true);
   told_.setInterval(kSettleMs);
   QObject::connect(&told_, &QTimer::timeout, [this] { on_changed(); });
-  RestoreMode();
   const Window root = DefaultRootWindow(display_.get());
   XSelectInput(display_.get(), root, StructureNotifyMask);
   XRRSelectInput(display_.get(), root,

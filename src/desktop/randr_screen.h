@@ -19,7 +19,7 @@ namespace sonotik {
 // no mode changes. What the server refuses stays as it is, silently.
 //
 // The mode that was found is noted at the server itself, for as long as the changed one is in
-// force: a program that was killed leaves its note, and the next one puts the screen right.
+// force: a program that was killed leaves its note, by which the next one can put the screen right.
 class RandrScreen {
  public:
   // nullptr for the display of the environment.
@@ -34,7 +34,8 @@ class RandrScreen {
   DisplayMode CurrentMode();
   // False if the monitor has no mode of this size, or none that leaves the other monitors alone.
   bool ChangeMode(int width, int height);
-  // The mode that was found; nothing happens while it is in force.
+  // The mode that was found, also by a program that was killed; nothing happens while it is in
+  // force.
   void RestoreMode();
 
   // A while after monitors have come, gone or changed, once for all that happened at a time.

@@ -1,5 +1,6 @@
 #include "playback/genre_lists.h"
 
+#include "files/file_list.h"
 #include "files/files.h"
 #include "files/line_format.h"
 #include "text/numbers.h"
@@ -10,6 +11,16 @@ namespace {
 std::string FileOf(const std::string& app_path) { return app_path + "\\random.dat"; }
 
 }  // namespace
+
+void ListGenres(const std::string& app_path, OptionLists& lists) {
+  FileList genres("*.cvr");
+  genres.SetFolder(app_path + "\\genres");
+  lists.available_genres.clear();
+  lists.selected_genres.clear();
+  for (const std::string& name : genres.names()) {
+    lists.available_genres.push_back(name.substr(0, name.size() - 4));
+  }
+}
 
 void LoadGenreLists(const std::string& app_path, OptionLists& lists) {
   if (!FileExists(FileOf(app_path))) return;

@@ -36,9 +36,13 @@ void VideoWindow::Show(bool visible) {
   if (visible) SetDisplay();
   form3_.form.SetVisible(visible);
   displays_.ShowSecondWindow(visible);
+  // The picture was placed when its file was opened, by what the window measured then.
+  if (visible) engine_.FitVideoWindow();
 }
 
 void VideoWindow::Move() {
+  // Hidden too, since the next video is placed by what it measures.
+  SetDisplay();
   const bool second = settings_.use_second_monitor;
   const std::string& file = engine_.current_file();
   const bool picture = !file.empty() && HasPicture(file);

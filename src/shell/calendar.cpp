@@ -48,10 +48,12 @@ bool Calendar::Load(Date day, DaySettings& page) const {
   const std::string path = PathOf(day);
   if (!FileExists(path)) return false;
   FieldReader reader(ReadWholeFile(path));
+  DaySettings whole;
   for (const Line& line : kLines) {
     reader.Skip();
-    page.*line.value = reader.Text();
+    whole.*line.value = reader.Text();
   }
+  page = whole;
   return true;
 }
 

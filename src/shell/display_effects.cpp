@@ -47,6 +47,11 @@ void DisplayEffects::SwitchFullScreen() {
 
 void DisplayEffects::MoveSecondMonitor() { house_.video_window.Move(); }
 
+void DisplayEffects::GiveBack() {
+  house_.machine.displays.SetTaskbarVisible(true);
+  if (house_.skins.screens.mode_changed()) house_.machine.displays.RestoreResolution();
+}
+
 void DisplayEffects::MonitorsChanged() {
   // The window of a monitor that was unplugged comes home to the first, and goes back with it.
   if (house_.settings.full_screen) {

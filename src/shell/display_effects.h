@@ -21,6 +21,9 @@ class DisplayEffects {
   // "Use second monitor", "Second Monitor ID:" or "Use Second Monitor For:" has been changed.
   void MoveSecondMonitor();
 
+  // The program ends: the desktop's bars show, and a mode that the skin has changed goes back.
+  void GiveBack();
+
  private:
   void MonitorsChanged();
 

@@ -35,7 +35,7 @@ class Jukebox {
         genre_ways(house),
         keys(house, menu, navigation),
         options(house, effects),
-        shutdown(house) {
+        shutdown(house, effects.displays) {
     start_up.hooks.load_sign = [this] {
       house.sign.LoadSign();
       house.led_sign.CommitChanges();

@@ -55,10 +55,8 @@ void Options::FillCommands() {
   commands_.remove_genre = [this, &lists] {
     MoveGenre(lists.selected_genres, lists.available_genres, "<<");
   };
-  commands_.reset_genres = [&lists] {
-    for (std::string& name : lists.selected_genres) lists.available_genres.push_back(name);
-    lists.selected_genres.clear();
-  };
+  // Anew from the folder, where files may have come or gone since.
+  commands_.reset_genres = [this, &lists] { ListGenres(house_.app_path, lists); };
   commands_.holiday_skin = [this] {
     const int skin = state_.holiday_skin;
     state_.of_day.skin = skin < 0 ? "" : house_.lists.calendar_skins[static_cast<size_t>(skin)];
@@ -175,7 +173,6 @@ OptionField& Options::FieldOf(const void* value) const {
 void Options::Opened() {
   entry_.Close();
   SelectDay(house_.machine.clock.Now().date);
-  Refresh();
 }
 
 void Options::Refresh() {
@@ -350,8 +347,8 @@ void Options::SelectDay(const Date& day) {
   state_.day = day;
   calendar_heading_->SetCaption("Calendar Settings For: " + DateText(day));
   month_.Show(day);
-  // A day without a file leaves the page as it is.
-  house_.calendar.Load(day, state_.of_day);
+  // A day without a file, or with a damaged one, leaves the page as it is.
+  house_.boundary.Run("calendar", [&] { house_.calendar.Load(day, state_.of_day); });
   Refresh();
 }
 

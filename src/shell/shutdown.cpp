@@ -13,7 +13,7 @@ void Shutdown::power_down() {
   };
   step("player beside", house_.tracks.hooks.close_visualisation);
   step("sign", hooks.send_closing_text);
-  GiveBackDesktop();
+  displays_.GiveBack();
   SaveQueue();
   if (house_.settings.save_carousel_on_shutdown) step("random.dat", hooks.save_random);
   RunCommand();
@@ -24,16 +24,11 @@ void Shutdown::power_down() {
 
 void Shutdown::TimedExit() {
   if (house_.state.shutting_down) return;
-  GiveBackDesktop();
+  displays_.GiveBack();
   SaveQueue();
   RunCommand();
   house_.state.shutting_down = true;
   Unload();
-}
-
-void Shutdown::GiveBackDesktop() {
-  house_.machine.displays.SetTaskbarVisible(true);
-  if (house_.skins.screens.mode_changed()) house_.machine.displays.RestoreResolution();
 }
 
 void Shutdown::SaveQueue() {

@@ -5,6 +5,7 @@
 #include <functional>
 
 #include "shell/assembly.h"
+#include "shell/display_effects.h"
 
 namespace sonotik {
 
@@ -17,7 +18,7 @@ struct ShutdownHooks {
 
 class Shutdown {
  public:
-  explicit Shutdown(Assembly& house) : house_(house) {}
+  Shutdown(Assembly& house, DisplayEffects& displays) : house_(house), displays_(displays) {}
 
   ShutdownHooks hooks;
 
@@ -29,13 +30,13 @@ class Shutdown {
   void TimedExit();
 
  private:
-  void GiveBackDesktop();
   void SaveQueue();
   void RunCommand();
   void EndSession();
   void Unload();
 
   Assembly& house_;
+  DisplayEffects& displays_;
 };
 
 }  // namespace sonotik

@@ -1,7 +1,6 @@
 #include "shell/start_up.h"
 
 #include "config/version.h"
-#include "files/file_list.h"
 #include "peripherals/clsScreens.h"
 #include "peripherals/clsStyle.h"
 #include "playback/genre_lists.h"
@@ -17,6 +16,8 @@ constexpr char kDeliveredSkin[] = "Neon";
 StartUpResult StartUp::Form_Load() {
   const std::string& app_path = house_.app_path;
   if (!instance_.Take(app_path)) return StartUpResult::kSecondInstance;
+  // What a run that was killed has left. Not before: a second start is to change nothing of the first.
+  house_.machine.displays.RestoreResolution();
   house_.state_timer.SetEnabled(false);
   house_.timer1.SetEnabled(false);
 
@@ -34,7 +35,7 @@ StartUpResult StartUp::Form_Load() {
 
   house_.lists.FillFixed(clsScreens(house_.machine.displays).Count());
   Run("load_facts", [&] { house_.facts.load_facts(); });
-  ListGenres();
+  ListGenres(app_path, house_.lists);
   Run("genre_scroll_show", hooks.genre_scroll_show);
   Milestone("Genres Check Complete");
   house_.settings.double_click_action = 0;
@@ -62,6 +63,7 @@ StartUpResult StartUp::Form_Load() {
     house_.machine.messages.Show(
         "You don't have any databases created, Click OK to run the CONFIG");
     hooks.show_splash(false);
+    effects_.displays.GiveBack();
     if (house_.state.shutting_down) return StartUpResult::kLeft;
     house_.machine.processes.StartProgram(app_path + "\\Config 3.exe", WindowState::kNormal);
     return StartUpResult::kNoCatalogue;
@@ -70,7 +72,11 @@ StartUpResult StartUp::Form_Load() {
   ShowFirstPage();
   Run("startup.mp3", [&] { PlayStartSound(); });
   hooks.show_splash(false);
-  if (house_.state.shutting_down) return StartUpResult::kLeft;
+  if (house_.state.shutting_down) {
+    // The skin may have come in behind the request to leave.
+    effects_.displays.GiveBack();
+    return StartUpResult::kLeft;
+  }
   constexpr StyleFlag kOnTop = StyleFlag::TopMost;
   if (house_.form2.style[static_cast<size_t>(kOnTop)].value) {
     clsStyle(house_.machine.displays).Set(kOnTop, true);
@@ -98,14 +104,6 @@ void StartUp::PlaySafe() {
   house_.settings.current_skin = kDeliveredSkin;
   house_.settings.full_screen = false;
   DeleteFileIfThere(wish);
-}
-
-void StartUp::ListGenres() {
-  FileList genres("*.cvr");
-  genres.SetFolder(house_.app_path + "\\genres");
-  for (const std::string& name : genres.names()) {
-    house_.lists.available_genres.push_back(name.substr(0, name.size() - 4));
-  }
 }
 
 void StartUp::SetUpYearButtons() {

@@ -43,7 +43,6 @@ class StartUp {
 
  private:
   void PlaySafe();
-  void ListGenres();
   void SetUpScreens();
   void SetUpYearButtons();
   void LoadDataFiles();

@@ -50,6 +50,7 @@ TEST_F(SettingsFileTest, TheDeliveredDefaultsLoadAndStandInTheirLines) {
   EXPECT_EQ(settings.current_skin, "Neon");
   // The delivered file can't know the folder it lies in.
   EXPECT_EQ(settings.attract_path, path);
+  EXPECT_EQ(settings.jingle_path, path + "\\jingles");
   const auto lines = folder.Lines("sonotik.def");
   ASSERT_EQ(lines.size(), 185U);
   EXPECT_EQ(lines[183], "Add all to queue\r");

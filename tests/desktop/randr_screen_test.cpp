@@ -77,12 +77,14 @@ TEST_F(RandrScreenTest, TheNextStartPutsRightWhatAKilledProgramLeft) {
   Screen()->ChangeMode(1280, 800);
   EXPECT_EQ(Size(), "1280 x 800");
   auto next = Screen();
+  EXPECT_EQ(Size(), "1280 x 800") << "a second start of a running jukebox changes nothing";
+  next->RestoreMode();
   EXPECT_EQ(Size(), "1600 x 900");
   next->ChangeMode(1280, 800);
   next->ChangeMode(1600, 900);
   next->ChangeMode(1280, 800);
   next.reset();
-  Screen();
+  Screen()->RestoreMode();
   EXPECT_EQ(Size(), "1600 x 900") << "the mode found first counts";
 }
 

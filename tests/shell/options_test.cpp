@@ -217,6 +217,17 @@ TEST_F(OptionsTest, ADayOfTheCalendarKeepsItsPage) {
             "Jingles Path\r\n\r\nDatabase Path\r\n\r\n");
 }
 
+TEST_F(OptionsTest, ADamagedFileOfTodayLeavesThePagesFilled) {
+  settings.enable_random_play = true;
+  folder.Write("CALENDER/01-15-2024.DAT", "Attract Mode Path\r\n\\half\r\nHoliday Skin\r\n");
+  Open();
+  EXPECT_TRUE(form().panel(screen::kOptions).visible());
+  // Before any section is pressed, which would fill them too.
+  EXPECT_TRUE(jukebox->options
+                  .Find(kRandom, "Random Play Options", "Enable Random Play", K::kCheck)
+                  ->checked());
+}
+
 TEST_F(OptionsTest, GenresGoOverAndComeBackTogether) {
   Open();
   for (int i = 0; i < 2; ++i) {
@@ -225,8 +236,9 @@ TEST_F(OptionsTest, GenresGoOverAndComeBackTogether) {
     if (form().options.picker.panel.visible()) Click(form().options.picker.done);
   }
   EXPECT_EQ(house().lists.selected_genres, (ItemList{"Blues", "Jazz"}));
+  folder.Write("genres/Polka.cvr", "");
   Press(kRandom, "Random Play Options", "Reset GENRE Lists", K::kCommand);
-  EXPECT_EQ(house().lists.available_genres, (ItemList{"Blues", "Jazz"}));
+  EXPECT_EQ(house().lists.available_genres, (ItemList{"Blues", "Jazz", "Polka"}));
   EXPECT_TRUE(house().lists.selected_genres.empty());
 }
 

@@ -148,6 +148,16 @@ TEST_F(SecondMonitorTest, ShowsForVideosAndForSongsAsItIsSet) {
   }
 }
 
+TEST_F(SecondMonitorTest, AVideoFitsAMonitorChosenWhileTheWindowWasHidden) {
+  Start();
+  Set(&Settings::second_monitor_videos_only, true);
+  Choose(clip);
+  Choose(song);
+  Set(&Settings::second_monitor, 0);
+  Choose(clip);
+  EXPECT_EQ(machine.player.placement.width, 1280);
+}
+
 TEST_F(SecondMonitorTest, APictureMovesBetweenTheWindowsWhileItPlays) {
   settings.use_second_monitor = false;
   Start();
@@ -214,7 +224,8 @@ TEST_F(SecondMonitorTest, StartsInFullScreenWithoutAFrameWhateverTheSkinTells) {
   EXPECT_TRUE(flag(StyleFlag::ToolWindow)) << "no matter of full screen";
   EXPECT_TRUE(house().form2.style[static_cast<size_t>(StyleFlag::ToolWindow)].value);
   EXPECT_TRUE(flag(StyleFlag::TopMost));
-  EXPECT_THAT(machine.displays.calls, ElementsAre("SetTaskbarVisible 0 0"));
+  EXPECT_THAT(machine.displays.calls,
+              ElementsAre("RestoreResolution 0 0", "SetTaskbarVisible 0 0"));
 }
 
 }  // namespace

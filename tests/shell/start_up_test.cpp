@@ -25,7 +25,9 @@ TEST_F(StartUpTest, LogsItsMilestonesBehindThoseOfOtherRuns) {
   EXPECT_EQ(Milestones().back(), "Random PLAY Load Complete");
   EXPECT_TRUE(house().state_timer.enabled() && house().timer1.enabled());
   // A second instance ends without a word.
+  machine.displays.calls.clear();
   EXPECT_EQ(Jukebox(folder.path(), machine.machine).Start(), StartUpResult::kSecondInstance);
+  EXPECT_TRUE(machine.displays.calls.empty()) << "the mode is the first one's";
   EXPECT_EQ(Milestones().size(), milestones);
   EXPECT_TRUE(machine.messages.shown.empty());
   Start();
@@ -34,8 +36,11 @@ TEST_F(StartUpTest, LogsItsMilestonesBehindThoseOfOtherRuns) {
 
 TEST_F(StartUpTest, WithoutACatalogueTheConfigurationProgramIsStartedAndItEnds) {
   folder.Remove("Records.rec");
+  folder.Write("skins/Plain/resolution.ini", "a\nb\nc\n1024\n768\n");
+  settings.full_screen = true;
   Start();
   EXPECT_EQ(result, StartUpResult::kNoCatalogue);
+  EXPECT_EQ(machine.displays.calls.back(), "RestoreResolution 0 0");
   EXPECT_EQ(
       machine.messages.shown,
       std::vector<std::string>{"You don't have any databases created, Click OK to run the CONFIG"});

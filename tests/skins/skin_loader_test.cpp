@@ -179,6 +179,7 @@ TEST_F(SkinLoaderTest, PlacesThreeScreensOnceMoreAndWhatNoFilePlaces) {
 TEST_F(SkinLoaderTest, GivesTheWindowItsFrameOrTheWholeScreen) {
   auto& calls = machine.displays.calls;
   Write("resolution.ini", "a\nb\nc\n1024\n768\n");
+  calls.clear();
   Skins().ApplySkin();
   EXPECT_THAT(calls, ElementsAre("SetWindowSize 1028 788"));
   EXPECT_EQ(form().form.place(), Rect({0, 0, 1024, 768}));
