@@ -161,12 +161,14 @@ void AlbumPages::ShowSource(CatalogueSource source) {
 }
 
 void AlbumPages::PressTab(AlbumTab tab) {
+  // The kind first: the pages come in an animation that lets events run, and by the kind a guest
+  // pays.
   switch (tab) {
     case AlbumTab::kAudio:
       // The kind changes only with the source here, and in any case for karaoke; that is meant.
       if (cursor_.source != CatalogueSource::kRecords) {
-        ShowSource(CatalogueSource::kRecords);
         cursor_.media_kind = kAudio;
+        ShowSource(CatalogueSource::kRecords);
       }
       break;
     case AlbumTab::kVideo:
@@ -174,19 +176,19 @@ void AlbumPages::PressTab(AlbumTab tab) {
       if (cursor_.source != CatalogueSource::kVideos) ShowSource(CatalogueSource::kVideos);
       break;
     case AlbumTab::kKaraoke:
-      if (cursor_.source != CatalogueSource::kKaraoke) ShowSource(CatalogueSource::kKaraoke);
       cursor_.media_kind = kKaraoke;
+      if (cursor_.source != CatalogueSource::kKaraoke) ShowSource(CatalogueSource::kKaraoke);
       break;
     case AlbumTab::kMostPlayed:
       // A tab without a page; that is meant.
       break;
     case AlbumTab::kNewSongs:
+      cursor_.media_kind = kNewSongs;
       // From the karaoke pages only the kind changes.
       if (cursor_.source != CatalogueSource::kKaraoke) {
         cursor_.source = CatalogueSource::kNew;
         read_albums3();
       }
-      cursor_.media_kind = kNewSongs;
       break;
     case AlbumTab::kSpinOnThis:
       spin_on_this();
