@@ -161,31 +161,5 @@ TEST(Images, ScaledColorsAreTheMeanOfWhatTheyCover) {
   }
 }
 
-TEST(Images, ArePaintedByAnyRasterOperationAndOnlyWhereThereIsASurface) {
-  constexpr unsigned kDrawn = 0xCC, kThere = 0xAA;
-  cImage image;
-  image.Create(2, 2, 24);
-  std::fill_n(image.DIBitsPtr(), image.hDC().bytes.size(), kDrawn);
-  const struct {
-    uint32_t rop;
-    unsigned wanted;
-  } cases[] = {{kSourceCopy, 0xCC},   {kSourcePaint, 0xEE}, {kSourceAnd, 0x88},
-               {kSourceInvert, 0x66}, {0x00000042, 0x00},   {0x00FF0062, 0xFF},
-               {0x00330008, 0x33},    {0x00550009, 0x55},   {0x00C000CA, 0xCC}};
-  for (const auto& c : cases) {
-    for (const auto& [x, y] : {Place{1, 0}, {-1, -1}, {3, 1}, {2, 2}, {INT_MIN, 0}, {0, INT_MAX}}) {
-      PixelSurface surface{4, 3, 20, std::vector<uint8_t>(60, kThere)};
-      image.PaintHDC(surface, x, y, c.rop);
-      for (int i = 0; i < 60; ++i) {
-        const int64_t to_right = i % 20 / 4 - int64_t{x}, to_bottom = i / 20 - int64_t{y};
-        const bool drawn =
-            i % 20 < 16 && to_right >= 0 && to_right < 2 && to_bottom >= 0 && to_bottom < 2;
-        const unsigned wanted = !drawn ? kThere : i % 4 == 3 ? 255 : c.wanted;
-        ASSERT_EQ(surface.bytes[static_cast<size_t>(i)], wanted) << x << ", " << y << ": " << i;
-      }
-    }
-  }
-}
-
 }  // namespace
 }  // namespace sonotik

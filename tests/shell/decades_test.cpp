@@ -2,7 +2,6 @@
 #include <gtest/gtest.h>
 
 #include "support/jukebox_test.h"
-#include "widgets/picture_source.h"
 
 namespace sonotik {
 namespace {
@@ -132,29 +131,6 @@ TEST_F(DecadesTest, AChartOfAnyLengthGivesItsWholeLinesAndNothingOfAnother) {
   EXPECT_EQ(Row(0).track.caption(), "Dawn");
   EXPECT_EQ(Row(1).artist.caption(), "( 2) Zoe");
   EXPECT_EQ(Row(1).track.caption(), "Ada, ");
-}
-
-TEST_F(DecadesTest, OnlyPicturesThatAreThereAreShown) {
-  struct Files : PictureSource {
-    std::optional<Rect> SizeOf(const std::string&) override { return std::nullopt; }
-    std::optional<PixelSurface> Pixels(const std::string&, int) override { return std::nullopt; }
-    std::optional<std::string> Bytes(const std::string& path) override {
-      asked.push_back(NameOf(path));
-      return std::nullopt;
-    }
-    std::vector<std::string> asked;
-  } files;
-  folder.Write("history/images/one.gif", "x");
-  folder.Write("history/images/two.gif", "x");
-  folder.Write("history/2024/01.pre", Chart({"a,b,one.gif,", "a,b,two.gif,"}, "a,b,none.gif,"));
-  folder.Write("history/2024/12.pre", Chart({}, "a,b,,"));
-  Start();
-  form().form.pictures = &files;
-  Open();
-  Step(DecadesStep::kMonthBack);
-  Step(DecadesStep::kMonthOn);
-  EXPECT_EQ(files.asked, (std::vector<std::string>{"one.gif", "two.gif"}));
-  form().form.pictures = nullptr;
 }
 
 TEST_F(DecadesTest, RowsPlayAndQueueForMoneyWhatTheyHave) {

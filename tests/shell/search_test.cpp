@@ -1,7 +1,6 @@
 // A guest who looks for something: the keyboard, the suggestions, the results.
 #include <gtest/gtest.h>
 
-#include "files/files.h"
 #include "support/jukebox_test.h"
 
 namespace sonotik {
@@ -265,58 +264,6 @@ TEST_F(SearchTest, SpecialListsAreOfferedWhereNothingWasFoundAndLeadToAnEmptyPag
   EXPECT_FALSE(Page().list_panel.visible() || form().searching.panel.visible());
   EXPECT_EQ(form().searching.progress.max(), 500);
   for (lvButtons_H& command : Page().commands) EXPECT_FALSE(command.visible());
-}
-
-TEST_F(SearchTest, ALineOfASpecialListFindsTheFirstRecordWithItsTwoKeys) {
-  // The name's key has 8 characters, the artist's 5.
-  folder.Write("Records.rec", TrackBytes("a\\1.wav", "Silver Moonlight", "The Beatnik") +
-                                  TrackBytes("a\\2.wav", "A Silver Moth", "A Beatrice") +
-                                  TrackBytes("a\\3.wav", "Silver Moon", "Beata") +
-                                  TrackBytes("a\\4.wav", "X", "Y"));
-  folder.Write("videos.rec", TrackBytes("v\\1.avi", "Silver Moon", "Beata"));
-  WriteAlbums({{"Silver Moon Rises", "A Beata"}});
-  Start();
-  const std::string path = folder.path() + "\\lists\\best.txt";
-  const struct {
-    std::string list;
-    Lines paths;
-    const char* heading;
-  } cases[] = {
-      // Places 1 and 5 share a bit, and so do 3 and 3.
-      {"1\r\n silver moonshine , beatnuts \r\nX,Y\r\n", {"a\\1.wav", "a\\4.wav"}, " 2"},
-      {"1\r\nSILVER MOT,BEATR\r\n", {"a\\2.wav"}, " 1"},
-      // 1 and 2 share none, though both names are there.
-      {"1\r\nSILVER M,HE BE\r\n", {""}, " 1"},
-      {"2\r\nSILVER,BEATA\r\n", {"v\\1.avi"}, " 1"},
-      {"0\r\nNONE,BEATA\r\nmoon,BEATA\r\n", {"", AlbumPath("Silver Moon Rises")}, " 2"},
-      // No comma, no names.
-      {"1\r\nSILVER M\r\n\r\n", {"a\\1.wav", "a\\1.wav"}, " 2"},
-      {"1\r\n", {""}, " 0"},
-  };
-  for (const auto& c : cases) {
-    folder.Write("lists/best.txt", c.list);
-    house().search_results.ClearFrom(0);
-    house().search.chart_show(path);
-    for (size_t i = 0; i < c.paths.size(); ++i) {
-      EXPECT_EQ(TrimBlanks(house().search.results().paths[i]), c.paths[i]) << c.list;
-    }
-    EXPECT_EQ(Page().heading.caption(), c.heading + std::string(" Albums Found, Matching ()"));
-  }
-  // More lines than the table has room for.
-  std::string endless = "1\r\n";
-  for (int i = 0; i < 300; ++i) endless += "X,Y\r\n";
-  folder.Write("lists/best.txt", endless);
-  house().search.chart_show(path);
-  EXPECT_EQ(TrimBlanks(house().search.results().paths.back()), "a\\4.wav");
-  for (const char* none : {"", "MOON,BEATA\r\n"}) {
-    folder.Write("lists/best.txt", none);
-    EXPECT_THROW(house().search.chart_show(path), RuntimeFailure);
-  }
-  house().search.chart_show(folder.path() + "\\lists\\gone.txt");
-  for (const ChartRow& row : form().decades.rows) {
-    EXPECT_EQ(row.artist.caption() + row.track.caption(), "FILE NOT FOUNDFILE NOT FOUND");
-    EXPECT_FALSE(row.play_now.visible() || row.add_queue.visible());
-  }
 }
 
 TEST_F(SearchTest, ATrackFileThatCantBeReadShowsAPageAllTheSame) {

@@ -82,25 +82,6 @@ TEST_F(SkinCheckTest, SaysWhatIsWrongWithAValue) {
   }
 }
 
-TEST_F(SkinCheckTest, CountsWhatIsMissingAndWhatIsTooMuch) {
-  std::filesystem::remove(folder.native() / "tracklist.ini");
-  std::filesystem::remove(folder.native() / "preview.jpg");
-  folder.Write("queue.ini", folder.Read("queue.ini") + "\r\n\r\n");
-  folder.Write("spin.ini", folder.Read("spin.ini") + "one, two");
-  auto lines = Lines("pin_screen.ini");
-  lines.pop_back();
-  WriteLines("pin_screen.ini", lines);
-  folder.Write("label.ini", "");
-  Findings findings;
-  EXPECT_FALSE(CheckFiles(folder.path(), findings));
-  EXPECT_THAT(findings,
-              ElementsAre("tracklist.ini: is missing",
-                          "label.ini: is too short: it ends after 0 of 6 values",
-                          "spin.ini: is too long: 2 values more than 13; a text may hold a comma",
-                          "pin_screen.ini: is too short: it ends after 147 of 148 values",
-                          "preview.jpg: is missing"));
-}
-
 TEST_F(SkinCheckTest, ChecksEachCoverLayout) {
   std::string name;
   for (const auto& entry : std::filesystem::directory_iterator(folder.native())) {

@@ -1,9 +1,7 @@
-// The object-shaped readers of an MP3's head and of ID3v2.3, and Infotag over them.
+// The object-shaped reader of ID3v2.3.
 #include <gtest/gtest.h>
 
-#include "tags/Infotag.h"
 #include "tags/clsID3V230Reader.h"
-#include "tags/clsMP3HeadReader.h"
 #include "tags/tag_files.h"
 
 namespace sonotik {
@@ -96,57 +94,6 @@ TEST(clsID3V230Reader, ListsPicturesAndLiftsThemOut) {
   EXPECT_EQ(reader.ExtractGraphic(path, 3000063, 21), "");
   EXPECT_EQ(reader.ExtractGraphic(path + "x", 10, 9), "");
   EXPECT_FALSE(scratch.Has("song.mp3.pic"));
-}
-
-TEST(clsMP3HeadReader, TakesTheFirstByteFFForAFrame) {
-  const std::string body(16000, 'x');
-  const std::string version2 = "\xFF\xF3\x90\x40" + body;
-  InfotagRecord record;
-  const auto figures = [&](const std::string& file) {
-    MemorySource source(AsBytes(file));
-    clsMP3HeadReader(record).ReadMP3Header(source);
-    const Infotag tag(record);
-    EXPECT_EQ(tag.FileSize() + std::to_string(tag.Layer()), std::to_string(file.size()) + "0");
-    return std::to_string(tag.Bitrate()) + " " + tag.Frequency() + " " +
-           std::to_string(tag.Length()) + " " + tag.Mode() +
-           (tag.IsProtected() ? " protected" : "") + (tag.IsCopyright() ? " copyright" : "");
-  };
-  Check({{"version 1", "xx\xFF\xFB\x90\x68" + body, "128 44100 1 Joint Stereo protected copyright"},
-         {"behind a tag", Tag(3, 0, "\xFF\xFB\xFF\xFF") + "\xFF\xFA\xE4\xC0" + body,
-          "320 48000 0 Mono"},
-         {"any FF", "\xFF\x08\x98\x80" + body, "0 32000 0 Dual Channel"},
-         {"version 2", version2, "0 22050 0 Joint Stereo protected"},
-         {"just whole", "\xFF\xFB\x90\x64", "128 44100 0 Joint Stereo protected"},
-         {"too near the end", "\xFF\xFB\x90", "0 0 0 "},
-         {"none", "xxxx", "0 0 0 "}},
-        [&](const std::string& file) {
-          record = {};
-          return figures(file);
-        });
-  // A record that wasn't emptied: version 2 goes by the rate in it.
-  record.Bitrate = 7;
-  EXPECT_EQ(figures(version2), "56 22050 2 Joint Stereo protected");
-}
-
-TEST(Infotag, TakesVersion1OnlyWhereItStandsAlone) {
-  const Scratch scratch;
-  const std::string v1 = Id3v1("Old" + Zeros(27) + "Oldies", Zeros(3));
-  const std::string v2 = Tag(3, 0, Frame3("TIT2", Latin("New")));
-  InfotagRecord record;
-  Infotag tag(record);
-  Check({{"1", v1, "Old|Oldies|"},
-         {"both", v2 + v1, "New||"},
-         {"2.3", v2, "New||"},
-         {"2.4 isn't read", Tag(4, 0, "x") + v1, "Old|Oldies|"},
-         {"none", "x", "||"}},
-        [&](const std::string& file) {
-          EXPECT_TRUE(tag.Find_Header_Tags(scratch.Put("a.mp3", file)));
-          return Joined({tag.Title(), tag.artist()});
-        });
-  EXPECT_TRUE(tag.Find_Header_Tags(scratch.Path("none.mP3  ")));
-  EXPECT_FALSE(tag.Find_Header_Tags("MP3"));
-  EXPECT_FALSE(tag.Find_Header_Tags(scratch.Path("a.mp3.tag")));
-  EXPECT_EQ(tag.FileSize(), "0");
 }
 
 }  // namespace

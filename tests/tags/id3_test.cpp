@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include "files/runtime_failure.h"
 #include "tags/clsID3V111Reader.h"
 #include "tags/id3v1.h"
 #include "tags/mdlID3.h"
@@ -120,16 +119,6 @@ TEST(Id3v2, FindsAnAppendedTagAndFollowsSeek) {
          {"seeking past the end", seeking, "Song"}},
         kTitle);
   Check({{"an update replaces its own frames", update, "New"}}, Reading(&TagRecord::artist));
-}
-
-TEST(Id3v2, UnknownVersionCountsAsFoundAndLeavesTheRecord) {
-  const Scratch scratch;
-  TagRecord record;
-  record.title = "before";
-  EXPECT_TRUE(ReadID3v2Tag(scratch.Put("a.mp3", Tag(5, 0, "x")), record));
-  EXPECT_FALSE(ReadID3v2Tag(scratch.Put("b.mp3", "no tag"), record));
-  EXPECT_FALSE(ReadID3v2Tag(scratch.Path("none.mp3"), record));
-  EXPECT_EQ(record.title, "before");
 }
 
 std::string ByModule(const std::string& file) {

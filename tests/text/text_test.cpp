@@ -62,14 +62,6 @@ TEST(Dates, AreReadWithAndWithoutLeadingZeros) {
   EXPECT_EQ(DaysBetween({2024, 3, 1}, {2024, 2, 28}), -2);
 }
 
-TEST(Dates, TimesAreShownInWholeSeconds) {
-  EXPECT_EQ(TimeText({{2024, 1, 1}, 7, 5, 9}), "07:05:09");
-  EXPECT_EQ(MinutesSeconds(0), "0:00");
-  EXPECT_EQ(MinutesSeconds(59.9), "0:59");
-  EXPECT_EQ(MinutesSeconds(605), "10:05");
-  EXPECT_EQ(MinutesSeconds(-3), "0:00");
-}
-
 TEST(CodePages, Utf8BecomesTheCodePageAndWhatIsNoneStaysAsItIs) {
   const struct {
     const char *text, *codes;

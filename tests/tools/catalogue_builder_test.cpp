@@ -10,7 +10,6 @@
 #include "files/runtime_failure.h"
 #include "jukebox_folder.h"
 #include "text/text.h"
-#include "tools/config/album_builder.h"
 #include "tools/config/sidecar.h"
 
 namespace sonotik {
@@ -272,29 +271,6 @@ TEST_F(CatalogueBuilder, NotesAReadOnlyFolderAndAMissingProbeAndGoesOn) {
   ASSERT_THAT(report.problems, SizeIs(2));
   EXPECT_THAT(report.problems[0].reason, HasSubstr("not writable"));
   EXPECT_EQ(report.problems[1].path, "ffprobe");
-}
-
-TEST(FormerCatalogue, HandsOnWhatLiesBelowAFolderAndIsNotThereAlready) {
-  Catalogue former;
-  for (const char* path : {"\\a\\1.wav", "\\a\\2.wav.tag", "\\a b\\3.wav", "\\b\\a\\4.wav"}) {
-    TrackInfo info;
-    info.path = path;
-    former.tracks.push_back(MakeRecord(info, 0, ""));
-  }
-  Catalogue present{{former.tracks[0]}, {}};
-  const Catalogue kept = FormerCatalogue(former).Below({"\\a"}, present);
-  ASSERT_THAT(kept.tracks, SizeIs(1));
-  EXPECT_EQ(kept.tracks[0].bytes, former.tracks[1].bytes);
-  EXPECT_TRUE(FormerCatalogue(former).HasTrack("\\a\\2.wav"));  // recorded by its sidecar
-}
-
-TEST_F(CatalogueBuilder, PutsNoMoreAlbumsIntoAnIndexThanThePagesCanCount) {
-  StagedFiles staged;
-  std::vector<AlbumRecord> albums(32767);
-  EXPECT_TRUE(StageAlbums(App() + "\\x.cvr", albums, staged));
-  albums.emplace_back();
-  EXPECT_FALSE(StageAlbums(App() + "\\y.cvr", albums, staged));
-  EXPECT_EQ(std::filesystem::file_size(root_ / "app/y.cvr.part"), 32767u * 385u);
 }
 
 }  // namespace

@@ -183,14 +183,6 @@ TEST(Buttons, TheLastSingleAmpersandMarksAnAccessKeyAndEnterAndEscapeClickOnlyCo
   EXPECT_THAT(k.Values(), ElementsAre(false, true, false));
 }
 
-std::string Stored(const lvButtons_H& button) {
-  PropertyBag bag;
-  button.WriteTo(bag);
-  std::string all;
-  for (const auto& row : kButtonProperties) all += *bag.Read(row.key) + "; ";
-  return all;
-}
-
 TEST(Buttons, ShapesTakeThePressOnlyWhereTheyAre) {
   // At the left top, left bottom, left middle, right top, right bottom and in the middle.
   const Point places[] = {{2, 2}, {2, 38}, {2, 20}, {88, 2}, {88, 38}, {45, 20}};
@@ -224,49 +216,6 @@ TEST(Buttons, CustomShapesAreWhereThePictureDiffersFromItsCorner) {
   EXPECT_TRUE(button.Covers({20, 10})) << "a picture that can't be read cuts nothing away";
   button.SetImage("");
   EXPECT_EQ(button.shape(), 0);
-  button.SetImage("star.bmp");
-  button.SetShape(7);
-  button.design_mode = true;
-  std::string told;
-  button.on_message = [&](const std::string& text) { told = text; };
-  button.SetImage("star.ico");
-  EXPECT_EQ(button.shape(), 0);
-  EXPECT_EQ(button.image(), "star.ico");
-  EXPECT_EQ(told,
-            "Button was changed to Rectangular shaped.\n"
-            "Icons cannot be used for custom buttons. Only use bitmaps or JPEGs.");
-}
-
-TEST(Buttons, AreStoredByKeyAndReadWithDefaults) {
-  lvButtons_H button;
-  button.SetCaption("A||&B");
-  button.SetFont({"Sans", 12.5F, true});
-  button.SetMode(kOptionMode);
-  button.SetValue(true);
-  button.SetImgSize(2);
-  button.SetForeColor(0x80000008);
-  button.SetHoverColors(5, 6);
-  PropertyBag bag;
-  button.WriteTo(bag);
-  EXPECT_EQ(bag.Read("imgsize"), "32");
-  lvButtons_H same;
-  same.ReadFrom(bag);
-  EXPECT_EQ(Stored(same), Stored(button));
-  EXPECT_EQ(same.access_key(), 'B');
-
-  PropertyBag odd;
-  for (const char* key : {"Shape", "BackStyle", "Gradient", "Mode", "CapStyle", "ImgSize", "Font",
-                          "Enabled", "cFore"}) {
-    odd.Write(key, "99 x");
-  }
-  odd.Write("ImgAlign", "4");
-  odd.Write("CapAlign", "0");
-  odd.Write("cBack", "255");
-  same.ReadFrom(odd);
-  lvButtons_H plain;
-  plain.SetImgAlign(4);
-  plain.SetBackColor(255);
-  EXPECT_EQ(Stored(same), Stored(plain)) << "a picture above the caption centres it";
 }
 
 }  // namespace
